@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/orv/IPlugin.h"
+#include "host/orvexp/IDelayExporter.h"
+
+namespace orvexp
+{
+
+/// An exporter plug-in.
+class IExporter : public orv::IPlugin, public IDelayExporter
+{
+public:
+    /// True where the exporter writes files of that path's extension; letter case is ignored.
+    virtual bool takes(wchar_t const* path) = 0;
+};
+
+} // namespace orvexp

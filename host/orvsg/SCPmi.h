@@ -1,0 +1,15 @@
+#pragma once
+
+#include "host/orvsg/Schema.h"
+
+namespace orvsg
+{
+
+/// Product manufacturing information, key 3. The importers read none, so it carries nothing yet that adds to a box.
+class SCPmi : public Schema
+{
+public:
+    static constexpr short key = 3;
+};
+
+} // namespace orvsg
