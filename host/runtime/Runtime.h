@@ -7,9 +7,10 @@ namespace orvhost
 {
 
 struct Settings {
-    std::wstring dataDirectory;    ///< the user's data; empty stands for the platform's per-user data directory
-    std::wstring pluginDirectory;  ///< where the plug-ins of the viewer lie; "export" and "delay" are below it
-    std::wstring serviceUrl;       ///< empty stands for the build's own; a closing slash is dropped
+    std::wstring dataDirectory; ///< the user's data; empty stands for the platform's per-user data directory
+    std::wstring
+        libraryDirectory;    ///< where the libraries of the viewer lie, in the folders "gui", "export" and "delay"
+    std::wstring serviceUrl; ///< empty stands for the build's own; a closing slash is dropped
     std::wstring language = L"en"; ///< two letters; anything without texts of its own is answered in English
     double dpi = 96.0;             ///< the display's logical resolution
 };
