@@ -1,0 +1,37 @@
+// Window and control styles of the dialog templates, with the values of the binary template format.
+#define IDOK 1
+#define IDC_STATIC -1
+
+#define WS_CAPTION 0x00C00000
+#define WS_CHILD 0x40000000
+#define WS_POPUP 0x80000000
+#define WS_SYSMENU 0x00080000
+#define WS_TABSTOP 0x00010000
+#define WS_BORDER 0x00800000
+#define WS_VISIBLE 0x10000000
+#define WS_DISABLED 0x08000000
+#define WS_EX_TRANSPARENT 0x00000020
+
+#define DS_SETFONT 0x0040
+#define DS_MODALFRAME 0x0080
+#define DS_FIXEDSYS 0x0008
+#define DS_CONTROL 0x0400
+
+#define ES_MULTILINE 0x0004
+#define ES_PASSWORD 0x0020
+#define ES_AUTOHSCROLL 0x0080
+#define BS_OWNERDRAW 0x000B
+#define SS_BITMAP 0x000E
+#define SS_SUNKEN 0x1000
+
+#define STATIC_CLASS 0x82
+
+#define MODAL_DIALOG DS_SETFONT | DS_MODALFRAME | DS_FIXEDSYS | WS_POPUP | WS_CAPTION | WS_SYSMENU
+#define CHILD_DIALOG DS_SETFONT | DS_FIXEDSYS | DS_CONTROL | WS_CHILD
+#define DIALOG_FONT FONT 8, "MS Shell Dlg", 400, 0, 1
+
+#define WEB_LINK BS_OWNERDRAW | WS_TABSTOP
+#define PASSWORD_EDIT ES_PASSWORD | ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP
+
+// Never shown and without a target: it keeps its id taken.
+#define UNUSED_WEB_LINK NOT WS_VISIBLE | WS_DISABLED | BS_OWNERDRAW
