@@ -24,16 +24,18 @@ std::uint32_t bigEndian(const Bytes& data, std::size_t at)
 
 void append(Bytes& out, std::size_t value, int bytes)
 {
-    for (int i = 0; i < bytes; ++i)
+    for (int i = 0; i < bytes; ++i) {
         out.push_back(static_cast<unsigned char>(value >> (8 * i) & 0xFF));
+    }
 }
 
 // Side in pixels, from the IHDR chunk that every PNG file starts with; 0 if this isn't a square PNG of 1 to 256 pixels.
 std::uint32_t sideOf(const Bytes& png)
 {
     static constexpr std::array<unsigned char, 8> signature{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A};
-    if (png.size() < 24 || std::memcmp(png.data(), signature.data(), signature.size()) != 0)
+    if (png.size() < 24 || std::memcmp(png.data(), signature.data(), signature.size()) != 0) {
         return 0;
+    }
     const std::uint32_t width = bigEndian(png, 16);
     return width == bigEndian(png, 20) && width <= 256 ? width : 0;
 }
@@ -73,8 +75,9 @@ int main(int argc, char** argv)
         append(out, offset, 4);
         offset += picture.size();
     }
-    for (const Bytes& picture : pictures)
+    for (const Bytes& picture : pictures) {
         out.insert(out.end(), picture.begin(), picture.end());
+    }
 
     std::ofstream file(argv[1], std::ios::binary);
     file.write(reinterpret_cast<const char*>(out.data()), static_cast<std::streamsize>(out.size()));
