@@ -1,0 +1,54 @@
+#pragma once
+#include "afxcmn.h"
+#include "afxdockablepane.h"
+
+#include <vector>
+
+// The tabs of the side bar. Every control stands in a window of its own whose text is the tab's title; so changing the
+// text of a control's parent changes the tab.
+class CMFCOutlookBarTabCtrl : public CWnd
+{
+    DECLARE_DYNAMIC(CMFCOutlookBarTabCtrl)
+    DECLARE_MESSAGE_MAP()
+
+public:
+    CMFCOutlookBarTabCtrl();
+    ~CMFCOutlookBarTabCtrl() override;
+
+    BOOL Create(const RECT& rect, CWnd* parent, UINT id);
+    // A new tab for a window. `image` counts in the picture lists; the style is made of AFX_CBRS_FLOAT, _AUTOHIDE,
+    // _RESIZE and _CLOSE. A detachable control can be floated by the user when the style has AFX_CBRS_FLOAT.
+    void AddControl(CWnd* control, LPCWSTR title, int image = -1, BOOL detachable = TRUE,
+                    DWORD style = AFX_CBRS_FLOAT | AFX_CBRS_CLOSE | AFX_CBRS_RESIZE | AFX_CBRS_AUTOHIDE);
+    int GetTabsNum() const { return static_cast<int>(tabs.size()); }
+    CWnd* GetTabWnd(int index) const; // the control itself, null outside
+    BOOL GetTabLabel(int index, CString& label) const;
+    BOOL SetTabLabel(int index, const CString& label);
+    int GetActiveTab() const { return activeTab; } // -1: none
+    CWnd* GetActiveWnd() const;
+    BOOL SetActiveTab(int index);
+
+    // Pictures for tabs and for the collapsed bar. The list is copied; `size` is its pictures' side in pixels.
+    int GetImageListCount() const { return largeCount; }
+    int GetToolbarImageListCount() const { return smallCount; }
+    BOOL AddImageList(_IMAGELIST* list, int size, COLORREF mask);
+    BOOL AddToolbarImageList(_IMAGELIST* list, int size, COLORREF mask);
+
+protected:
+    // Called after another tab became active (also for the first one, with an earlier index of -1).
+    virtual void OnActiveTabChanged(int earlier, int now);
+
+private:
+    friend class CMFCOutlookBar;
+    struct Tab {
+        HWND control;
+        HWND wrapper;
+        DWORD style;
+    };
+    void activate(int index);
+
+    std::vector<Tab> tabs;
+    int activeTab = -1;
+    int largeCount = 0;
+    int smallCount = 0;
+};

@@ -1,0 +1,31 @@
+#pragma once
+// A decoded picture.
+
+#include "objidl.h"
+#include "wingdi.h"
+
+#include <string>
+
+// Owns its bitmap. Decoding takes the formats that the system knows; a picture whose sides or memory (64 MiB) are out
+// of bounds is refused.
+class CImage
+{
+public:
+    CImage() = default;
+    ~CImage() { Destroy(); }
+    CImage(const CImage&) = delete;
+    CImage& operator=(const CImage&) = delete;
+
+    HRESULT Load(IStream* stream); // E_FAIL: not a picture
+    HRESULT Load(LPCWSTR path);
+    bool IsNull() const { return bitmap == nullptr; }
+    int GetWidth() const;  // pixels, 0 when there is none
+    int GetHeight() const; // pixels, 0 when there is none
+    void Attach(HBITMAP other);
+    HBITMAP Detach(); // the caller owns it
+    void Destroy();
+    operator HBITMAP() const { return bitmap; }
+
+private:
+    HBITMAP bitmap = nullptr;
+};

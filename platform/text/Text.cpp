@@ -1,0 +1,174 @@
+#include "platform/text/Text.h"
+
+namespace orvtext
+{
+namespace
+{
+constexpr char32_t replacement = 0xFFFD;
+
+bool isSurrogate(char32_t code)
+{
+    return code >= 0xD800 && code <= 0xDFFF;
+}
+
+char32_t checked(wchar_t character)
+{
+    const auto code = static_cast<char32_t>(character);
+    return code > 0x10FFFF || isSurrogate(code) ? replacement : code;
+}
+
+// Reads one code point at `at` and moves past it. A broken sequence gives one replacement and ends before the first
+// byte that can't belong to it, so that nothing valid is swallowed.
+char32_t readUtf8(std::string_view bytes, std::size_t& at)
+{
+    const auto lead = static_cast<unsigned char>(bytes[at++]);
+    if (lead < 0x80)
+        return lead;
+    int following = 0;
+    char32_t code = 0;
+    unsigned char low = 0x80;
+    unsigned char high = 0xBF;
+    if (lead >= 0xC2 && lead <= 0xDF) {
+        following = 1;
+        code = lead & 0x1Fu;
+    } else if (lead >= 0xE0 && lead <= 0xEF) {
+        following = 2;
+        code = lead & 0x0Fu;
+        low = lead == 0xE0 ? 0xA0 : 0x80;  // no overlong forms
+        high = lead == 0xED ? 0x9F : 0xBF; // no surrogates
+    } else if (lead >= 0xF0 && lead <= 0xF4) {
+        following = 3;
+        code = lead & 0x07u;
+        low = lead == 0xF0 ? 0x90 : 0x80;
+        high = lead == 0xF4 ? 0x8F : 0xBF;
+    } else {
+        return replacement;
+    }
+    for (; following > 0; --following) {
+        if (at == bytes.size())
+            return replacement;
+        const auto next = static_cast<unsigned char>(bytes[at]);
+        if (next < low || next > high)
+            return replacement;
+        code = code << 6 | (next & 0x3Fu);
+        low = 0x80;
+        high = 0xBF;
+        ++at;
+    }
+    return code;
+}
+} // namespace
+
+std::string toUtf8(std::wstring_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (const wchar_t character : text) {
+        const char32_t code = checked(character);
+        if (code < 0x80) {
+            bytes += static_cast<char>(code);
+        } else if (code < 0x800) {
+            bytes += static_cast<char>(0xC0 | code >> 6);
+            bytes += static_cast<char>(0x80 | (code & 0x3F));
+        } else if (code < 0x10000) {
+            bytes += static_cast<char>(0xE0 | code >> 12);
+            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+            bytes += static_cast<char>(0x80 | (code & 0x3F));
+        } else {
+            bytes += static_cast<char>(0xF0 | code >> 18);
+            bytes += static_cast<char>(0x80 | (code >> 12 & 0x3F));
+            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
+            bytes += static_cast<char>(0x80 | (code & 0x3F));
+        }
+    }
+    return bytes;
+}
+
+std::wstring fromUtf8(std::string_view bytes)
+{
+    std::wstring text;
+    text.reserve(bytes.size());
+    for (std::size_t at = 0; at < bytes.size();)
+        text += static_cast<wchar_t>(readUtf8(bytes, at));
+    return text;
+}
+
+std::u16string toUtf16(std::wstring_view text)
+{
+    std::u16string units;
+    units.reserve(text.size());
+    for (const wchar_t character : text) {
+        // A lone surrogate passes: it may stand for a unit that was widened from elsewhere.
+        const auto code = static_cast<char32_t>(character) > 0x10FFFF ? replacement : static_cast<char32_t>(character);
+        if (code < 0x10000) {
+            units += static_cast<char16_t>(code);
+        } else {
+            units += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10));
+            units += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
+        }
+    }
+    return units;
+}
+
+std::wstring fromUtf16(std::u16string_view text)
+{
+    std::wstring result;
+    result.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const char32_t unit = text[at];
+        if (!isSurrogate(unit)) {
+            result += static_cast<wchar_t>(unit);
+        } else if (unit < 0xDC00 && at + 1 < text.size() && text[at + 1] >= 0xDC00 && text[at + 1] <= 0xDFFF) {
+            result += static_cast<wchar_t>(0x10000 + ((unit - 0xD800) << 10) + (text[at + 1] - 0xDC00u));
+            ++at;
+        } else {
+            result += static_cast<wchar_t>(replacement);
+        }
+    }
+    return result;
+}
+
+std::wstring fromUtf16Le(const void* bytes, std::size_t units)
+{
+    const auto* byte = static_cast<const unsigned char*>(bytes);
+    std::u16string text(units, u'\0');
+    for (std::size_t i = 0; i < units; ++i)
+        text[i] = static_cast<char16_t>(byte[2 * i] | byte[2 * i + 1] << 8);
+    return fromUtf16(text);
+}
+
+std::size_t utf16Length(std::wstring_view text)
+{
+    std::size_t length = text.size();
+    for (const wchar_t character : text)
+        length += static_cast<char32_t>(character) > 0xFFFF && static_cast<char32_t>(character) <= 0x10FFFF;
+    return length;
+}
+
+std::string narrowLowBytes(std::wstring_view text)
+{
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (const char16_t unit : toUtf16(text))
+        bytes += static_cast<char>(unit & 0xFF);
+    return bytes;
+}
+
+std::wstring widenSignExtended(std::string_view bytes)
+{
+    std::wstring text;
+    text.reserve(bytes.size());
+    for (const char byte : bytes)
+        text += static_cast<wchar_t>(static_cast<char16_t>(static_cast<signed char>(byte)));
+    return text;
+}
+
+std::wstring widenBytes(std::string_view bytes)
+{
+    std::wstring text;
+    text.reserve(bytes.size());
+    for (const char byte : bytes)
+        text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
+    return text;
+}
+} // namespace orvtext
