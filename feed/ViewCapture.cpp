@@ -1,0 +1,184 @@
+#include "feed/ViewCapture.h"
+
+#include "feed/SceneRecords.h"
+#include "feed/Thumbnail.h"
+#include "host/orv/FileUtils.h"
+#include "host/orv/GUID.h"
+#include "host/orvgl/CameraHelper.h"
+#include "host/orvgl/ImageRenderer.h"
+#include "host/orvglutils/ImageWriter.h"
+#include "host/orvglutils/MarkupUtils.h"
+#include "host/orvsgutils/MaterialUtils.h"
+#include "host/orvweb/Directories.h"
+#include "platform/text/Text.h"
+#include "service/ModelName.h"
+#include "service/PluginText.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iomanip>
+#include <locale>
+#include <set>
+#include <sstream>
+#include <utility>
+
+namespace
+{
+
+constexpr unsigned int pictureSize = 256;
+constexpr unsigned long pictureMask = 0xFF00FF;
+constexpr double recordedZoom = 1.0;
+
+/// Switches everything off that is drawn besides the model, for its own life.
+class PlainView
+{
+public:
+    explicit PlainView(std::shared_ptr<orvgl::SCRenderer> record) : renderer(std::move(record))
+    {
+        if (renderer) {
+            noted = renderer->settings;
+            renderer->settings.showAxisCross = false;
+            renderer->settings.showViewCube = false;
+            renderer->settings.showSelection = false;
+        }
+    }
+    ~PlainView()
+    {
+        if (renderer) {
+            renderer->settings = noted;
+        }
+    }
+    PlainView(PlainView const&) = delete;
+    PlainView& operator=(PlainView const&) = delete;
+
+private:
+    std::shared_ptr<orvgl::SCRenderer> renderer;
+    orvgl::RendererSettings noted;
+};
+
+void writePicture(std::shared_ptr<orv::IDocument> const& document, SceneRecords const& records,
+                  std::wstring const& imagePath)
+{
+    orvgl::ImageRenderer image(document, pictureSize, pictureSize, false);
+    PlainView const plain(records.renderer);
+    std::shared_ptr<unsigned char> const pixels = image.drawFrame();
+    orvglutils::ImageWriter writer(pictureMask);
+    writer.write(image.width(), image.height(), pixels.get(), imagePath.c_str(), false, true);
+}
+
+std::wstring currentTimeText()
+{
+    std::time_t const now = std::time(nullptr);
+    return commentTimeText(*std::localtime(&now));
+}
+
+FeedViewport captureCamera(SceneRecords const& records)
+{
+    FeedViewport viewport;
+    if (records.renderer && records.renderer->camera) {
+        Vector3 right;
+        orvgl::CameraHelper::getEyeTargetUp(records.renderer->camera, viewport.eye, viewport.target, right, viewport.up,
+                                            false);
+    }
+    viewport.zoom = recordedZoom;
+    return viewport;
+}
+
+void captureColors(SceneRecords& records, FeedObjects& objects)
+{
+    auto const& colored = records.runtime->coloredNodes;
+    if (colored.size() != 0) {
+        objects.colored.resize(records.topology->nodes.size());
+    }
+    for (int const node : colored) {
+        if (node == -1) {
+            continue;
+        }
+        unsigned long const color = orvsgutils::MaterialUtils::getNodeColor(node, records.resources, records.topology);
+        auto const channel = [color](unsigned shift) {
+            return static_cast<float>(static_cast<double>((color >> shift) & 0xFFU) / 255.0);
+        };
+        if (records.topology->nodes.contains(node)) {
+            objects.colored[static_cast<std::size_t>(node)] = Vector3(channel(0), channel(8), channel(16));
+        }
+        objects.nodecolor.emplace(node, static_cast<int>(color));
+    }
+}
+
+void captureMovedNodes(SceneRecords const& records, FeedObjects& objects)
+{
+    std::set<int> moved;
+    orvglutils::MarkupUtils::getMovedComponents(records.resources, records.topology, moved);
+    for (int const node : moved) {
+        int const index = records.topology->transformOfNode.getValue(node);
+        objects.nodetransform.emplace(node, records.resources->transforms.getValue(index).matrix);
+    }
+}
+
+FeedObjects captureObjects(SceneRecords& records)
+{
+    FeedObjects objects;
+    if (!records.hasScene()) {
+        return objects;
+    }
+    captureColors(records, objects);
+    for (int const node : records.runtime->transparentNodes) {
+        if (node != -1) {
+            objects.transparent.push_back(node);
+        }
+    }
+    auto const& visibility = records.runtime->visibility;
+    for (std::size_t node = 0; node < visibility.size(); ++node) {
+        if (!visibility[node]) {
+            objects.hidden.push_back(static_cast<int>(node));
+        }
+    }
+    captureMovedNodes(records, objects);
+    return objects;
+}
+
+} // namespace
+
+Feed captureView(std::shared_ptr<orv::IDocument> const& document, orvweb::UserInfo const& user,
+                 std::wstring const& text, std::wstring const& fileId, std::wstring const& imagePath)
+{
+    SceneRecords records(document);
+    writePicture(document, records, imagePath);
+    std::wstring const time = currentTimeText();
+    std::wstring const fileName = records.info ? modelName(records.info->file()) : std::wstring();
+
+    FeedAction const action(pluginText(207), pluginText(208));
+    std::wstring const identity = orv::GUID().toString();
+    std::wstring const commentId = identity.substr(1, identity.size() - 2);
+    std::wstring const commentType = pluginText(206);
+    std::wstring const source = pluginText(205);
+    std::wstring const thumbnail = pluginText(209) + encodeFileBase64(imagePath);
+
+    FeedViewport const viewport = captureCamera(records);
+    FeedObjects objects = captureObjects(records);
+    return Feed(FeedAuthor(user.userid, user.name, user.username, true, true), FeedFile(fileId, fileName),
+                FeedComment(commentId, commentType, text, time, time, viewport, std::move(objects)), action, source,
+                thumbnail);
+}
+
+std::wstring thumbnailPath()
+{
+    return orv::FileUtils::join(orvweb::Directories::GetUserDirectoryDetails(L"Cloud", L""), L"image.jpeg");
+}
+
+std::wstring encodeFileBase64(std::wstring const& path)
+{
+    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return orvtext::widenBytes(encodeBase64(bytes.str()));
+}
+
+std::wstring commentTimeText(std::tm const& local, std::size_t room)
+{
+    std::wostringstream text;
+    text.imbue(std::locale::classic());
+    // The month stands in the minutes' place; the service's other clients show the same.
+    text << std::put_time(&local, L"%b %d, %Y %H:%m %p");
+    return text.str().size() < room ? text.str() : std::wstring();
+}

@@ -1,0 +1,101 @@
+#include "ui/account/SessionStore.h"
+
+#include "host/orv/FileUtils.h"
+#include "host/orvweb/Directories.h"
+#include "service/RequestFile.h"
+#include "ui/account/ByteCodecvt.h"
+
+#include <windows.h>
+
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+
+namespace
+{
+
+/// Every reader tests whether the file opens, closes it, and opens it a second time for the lines.
+bool readLines(SessionFile const& session, std::initializer_list<std::wstring*> lines)
+{
+    if (!session.canOpen()) {
+        return false;
+    }
+    std::wifstream file;
+    file.imbue(byteLocale());
+    file.open(std::filesystem::path(session.path()));
+    if (!file.is_open()) {
+        return false;
+    }
+    for (std::wstring* const line : lines) {
+        std::getline(file, *line);
+    }
+    return true;
+}
+
+void writeLines(SessionFile const& session, std::initializer_list<std::wstring const*> lines)
+{
+    if (!session.canOpen()) {
+        session.createEmpty(); // a stream would make it readable for others
+    }
+    std::wofstream file;
+    file.imbue(byteLocale());
+    // Unbuffered: what stands before a character that has no byte is in the file by then, and only once.
+    file.rdbuf()->pubsetbuf(nullptr, 0);
+    file.open(std::filesystem::path(session.path()));
+    for (std::wstring const* const line : lines) {
+        file << *line << std::endl;
+    }
+}
+
+} // namespace
+
+SessionFile::SessionFile()
+    : folder(orvweb::Directories::GetUserDirectoryDetails(L"Cloud", L"")),
+      filePath(orv::FileUtils::join(folder, L"temp"))
+{
+}
+
+bool SessionFile::canOpen() const
+{
+    return std::wifstream(std::filesystem::path(filePath)).is_open();
+}
+
+bool SessionFile::read(orvweb::UserInfo& user) const
+{
+    return readLines(*this, {&user.username, &user.userid, &user.name});
+}
+
+bool SessionFile::readTwo(orvweb::UserInfo& user) const
+{
+    return readLines(*this, {&user.username, &user.userid});
+}
+
+bool SessionFile::readFirst(std::wstring& username) const
+{
+    return readLines(*this, {&username});
+}
+
+void SessionFile::write(std::wstring const& username, std::wstring const& userid) const
+{
+    writeLines(*this, {&username, &userid});
+}
+
+void SessionFile::write(std::wstring const& username, std::wstring const& userid, std::wstring const& name) const
+{
+    writeLines(*this, {&username, &userid, &name});
+}
+
+void SessionFile::createEmpty() const
+{
+    createEmptyFile(filePath);
+}
+
+void SessionFile::remove() const
+{
+    DeleteFileW(filePath.c_str());
+}
+
+void SessionFile::removeDirectory() const
+{
+    RemoveDirectoryW(folder.c_str());
+}
