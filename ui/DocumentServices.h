@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/orv/IDocument.h"
+
+#include <memory>
+#include <string>
+
+namespace orv
+{
+class SCApplication;
+}
+
+/// What windows ask of the open document. An empty document is allowed everywhere.
+
+/// The document's way to its application, or empty.
+std::shared_ptr<orv::SCApplication> applicationOf(std::shared_ptr<orv::IDocument> const& document);
+
+/// The path of the model's file; empty when the model has none.
+std::wstring modelPath(std::shared_ptr<orv::IDocument> const& document);
+
+/// Shows a text to the user; nothing where there is no application.
+void showStatus(std::shared_ptr<orv::SCApplication> const& application, std::wstring const& text);
+
+/// Tests the connection before a request. Without one the user is told and the answer is false.
+bool isConnected(std::shared_ptr<orv::SCApplication> const& application);

@@ -1,0 +1,173 @@
+#include "ui/feed/FeedBlock.h"
+
+#include "feed/Thumbnail.h"
+#include "service/PluginText.h"
+#include "ui/DialogTemplate.h"
+#include "ui/ResourceIds.h"
+
+#include <atlimage.h>
+#include <objbase.h>
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <utility>
+
+namespace
+{
+
+constexpr int columnWidth = 180; // of text and picture, pixels
+constexpr int lineHeight = 20;
+
+/// Any format that the image class knows. False where the bytes hold no picture.
+bool loadImage(CImage& image, std::string const& bytes)
+{
+    if (bytes.empty()) {
+        return false;
+    }
+    HGLOBAL const block = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+    if (block == nullptr) {
+        return false;
+    }
+    std::memcpy(GlobalLock(block), bytes.data(), bytes.size());
+    GlobalUnlock(block);
+    bool loaded = false;
+    IStream* stream = nullptr;
+    if (CreateStreamOnHGlobal(block, FALSE, &stream) == S_OK) {
+        loaded = SUCCEEDED(image.Load(stream));
+        stream->Release();
+    }
+    GlobalFree(block);
+    return loaded && image.GetWidth() > 0 && image.GetHeight() > 0;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(FeedBlock, CDialogEx)
+ON_WM_SIZE()
+ON_WM_LBUTTONDOWN()
+ON_BN_CLICKED(resource::control::deleteComment, &FeedBlock::OnDelete)
+END_MESSAGE_MAP()
+
+FeedBlock::FeedBlock() : CDialogEx(templateId()) {}
+
+UINT FeedBlock::templateId()
+{
+    return DialogTemplate{203, 286, 287, 288, 289, 290, 291, 292}.forCurrentLanguage();
+}
+
+void FeedBlock::DoDataExchange(CDataExchange* exchange)
+{
+    CDialogEx::DoDataExchange(exchange);
+    DDX_Control(exchange, resource::control::thumbnail, thumbnail);
+    DDX_Control(exchange, resource::control::commentText, text);
+    DDX_Control(exchange, resource::control::publishingDate, date);
+    DDX_Control(exchange, resource::control::deleteComment, deleteButton);
+}
+
+BOOL FeedBlock::OnInitDialog()
+{
+    CDialogEx::OnInitDialog();
+    deleteButton.SetTooltip(pluginText(resource::text::deleteComment).c_str());
+    deleteButton.SetImage(resource::image::deleteComment);
+    deleteButton.MoveWindow(180, 0, 24, 24);
+    deleteButton.ShowWindow(SW_HIDE);
+    return TRUE;
+}
+
+void FeedBlock::PostNcDestroy()
+{
+    CDialogEx::PostNcDestroy();
+    delete this;
+}
+
+void FeedBlock::OnSize(UINT type, int width, int height)
+{
+    CDialogEx::OnSize(type, width, height); // the layout doesn't follow the size
+}
+
+void FeedBlock::OnUpdate(orv::IHint* hint)
+{
+    if (hint == nullptr) {
+        return;
+    }
+    using namespace orv::HintCode;
+    switch (hint->getCode()) {
+    case documentOpened:
+    case documentClosed:
+    case visibilityChanged:
+    case appearanceChanged:
+    case sceneChanged:
+    case viewRestored:
+        if (auto const current = hint->getDocument()) {
+            document = current;
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+int FeedBlock::setFeed(Feed const& newRecord, std::shared_ptr<orvweb::UserInfo> user)
+{
+    userInfo = std::move(user);
+    record = newRecord;
+
+    std::wstring const& content = record.comment.content;
+    text.SetWindowTextW(content.c_str());
+    int const textHeight = lineCount(content) * lineHeight;
+
+    int height = 0;
+    if (loadThumbnail(height)) {
+        thumbnail.MoveWindow(15, 15, columnWidth, height);
+        thumbnail.Invalidate();
+        date.SetWindowTextW(record.comment.publishedTime.c_str());
+        date.MoveWindow(15, 0, columnWidth, 30);
+        text.MoveWindow(15, height + 20, columnWidth, textHeight + 20);
+        thumbnail.ShowWindow(SW_SHOW);
+        date.ShowWindow(SW_SHOW);
+    } else {
+        // Without a picture there is no date either; that is meant.
+        thumbnail.ShowWindow(SW_HIDE);
+        date.ShowWindow(SW_HIDE);
+        text.MoveWindow(15, 20, columnWidth, textHeight + 20);
+    }
+    // The record's own flags play no part: the author deletes, nobody else.
+    bool const own = userInfo && userInfo->username == record.author.email;
+    deleteButton.ShowWindow(own ? SW_SHOW : SW_HIDE);
+    return height + 35 + textHeight;
+}
+
+/// Measured as one line, line breaks and all; the control does the wrapping.
+int FeedBlock::lineCount(std::wstring const& content)
+{
+    CClientDC context(this);
+    CFont* const previous = context.SelectObject(GetFont());
+    SIZE size{};
+    GetTextExtentPoint32W(context.GetSafeHdc(), content.c_str(), static_cast<int>(content.size()), &size);
+    context.SelectObject(previous);
+    return size.cx / columnWidth + 1;
+}
+
+/// Hands the record's picture to the control and tells the height at which it keeps its proportions. False, and height
+/// 0, where there is none that can be shown.
+bool FeedBlock::loadThumbnail(int& height)
+{
+    height = 0;
+    if (!hasThumbnail(record)) {
+        return false;
+    }
+    CImage image;
+    if (!loadImage(image, decodeThumbnail(record))) {
+        return false;
+    }
+    std::int64_t const scaled = std::int64_t{image.GetHeight()} * columnWidth / image.GetWidth();
+    if (scaled > std::numeric_limits<std::int16_t>::max()) {
+        return false; // taller than a window can be
+    }
+    height = static_cast<int>(scaled);
+    if (HBITMAP const previous = thumbnail.SetBitmap(image.Detach())) {
+        DeleteObject(previous);
+    }
+    return true;
+}

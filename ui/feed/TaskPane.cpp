@@ -1,0 +1,189 @@
+#include "ui/feed/TaskPane.h"
+
+#include "host/orvsgutils/ResourceLoader.h"
+#include "host/orvui/Hint.h"
+#include "service/CloudHelper.h"
+#include "service/PluginText.h"
+#include "ui/DocumentServices.h"
+#include "ui/ResourceIds.h"
+#include "ui/account/FeedLoginDlg.h"
+#include "ui/feed/AddFeed.h"
+#include "ui/feed/FeedBlock.h"
+#include "ui/feed/FeedToolbarDialog.h"
+
+namespace
+{
+
+constexpr std::size_t blockCount = 100;
+constexpr int loginHeight = 40; // pixels, at every resolution
+
+bool rebuilds(short code)
+{
+    using namespace orv::HintCode;
+    return code == documentActivated || code == documentOpened || code == feedReloaded || code == signedIn ||
+           code == signedOut;
+}
+
+struct GroupHeights {
+    int tools;
+    int addComment;
+};
+
+/// Pixels, by the display's resolution.
+GroupHeights groupHeights()
+{
+    double const dpi = orvsgutils::ResourceLoader::m_dpi;
+    if (dpi >= 192.0) {
+        return {175, 210};
+    }
+    if (dpi >= 144.0) {
+        return {150, 180};
+    }
+    if (dpi >= 120.0) {
+        return {125, 150};
+    }
+    return {100, 120};
+}
+
+template <class Child>
+Child* createChild(CWnd* parent)
+{
+    auto* const child = new Child; // deletes itself with its window
+    return child->Create(Child::templateId(), parent) ? child : nullptr;
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CTaskPane, CMFCTasksPane)
+
+BEGIN_MESSAGE_MAP(CTaskPane, CMFCTasksPane)
+ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+int CTaskPane::OnCreate(LPCREATESTRUCT creation)
+{
+    if (CMFCTasksPane::OnCreate(creation) == -1) {
+        return -1;
+    }
+    login = createChild<FeedLoginDlg>(this);
+    addFeed = createChild<AddFeed>(this);
+    toolbar = createChild<FeedToolbarDialog>(this);
+    if (login == nullptr || addFeed == nullptr || toolbar == nullptr) {
+        return -1;
+    }
+    for (std::size_t i = 0; i < blockCount; ++i) {
+        if (createBlock() == nullptr) {
+            return -1;
+        }
+    }
+    EnableGroupCollapse(FALSE);
+    return 0;
+}
+
+void CTaskPane::setFeed(std::vector<Feed> const& newFeed, std::shared_ptr<orvweb::UserInfo> const& user,
+                        std::shared_ptr<CloudHelper> const& cloudHelper)
+{
+    feed = newFeed;
+    userInfo = user;
+    helper = cloudHelper;
+}
+
+void CTaskPane::OnUpdate(orv::IHint* hint)
+{
+    if (hint == nullptr || !rebuilds(hint->getCode()) || toolbar == nullptr) {
+        return;
+    }
+    short const code = hint->getCode();
+    toolbar->SetContext(userInfo, helper);
+    login->SetContext(userInfo, helper);
+    addFeed->setUser(userInfo);
+
+    clear();
+    forward(hint);
+
+    bool const signedIn = userInfo && !userInfo->userid.empty();
+    GroupHeights const heights = groupHeights();
+    addGroup(pluginText(resource::text::toolsGroup), *toolbar, heights.tools);
+    if (!signedIn) {
+        addGroup(L"", *login, loginHeight);
+    }
+
+    using namespace orv::HintCode;
+    if (code != documentOpened && code != feedReloaded && code != orv::HintCode::signedIn) {
+        return;
+    }
+    if (auto const current = hint->getDocument()) {
+        document = current;
+    }
+    if (signedIn && !modelPath(document).empty()) {
+        addGroup(pluginText(resource::text::addCommentGroup), *addFeed, heights.addComment);
+    }
+    if (code == feedReloaded) {
+        addBlocks();
+    }
+}
+
+void CTaskPane::clear()
+{
+    for (FeedBlock* const block : blocks) {
+        block->ShowWindow(SW_HIDE);
+    }
+    toolbar->ShowWindow(SW_HIDE);
+    addFeed->ShowWindow(SW_HIDE);
+    login->ShowWindow(SW_HIDE);
+    RemoveAllGroups();
+}
+
+void CTaskPane::forward(orv::IHint* hint)
+{
+    addFeed->OnUpdate(hint);
+    toolbar->OnUpdate(hint);
+    login->OnUpdate(hint);
+    for (FeedBlock* const block : blocks) {
+        block->OnUpdate(hint);
+    }
+}
+
+void CTaskPane::addGroup(std::wstring const& title, CWnd& child, int height)
+{
+    constexpr COLORREF black = RGB(0, 0, 0);
+    int const group = AddGroup(title.c_str(), FALSE, TRUE, nullptr);
+    SetGroupTextColor(group, black, black);
+    child.ShowWindow(SW_SHOW);
+    AddWindow(group, child.GetSafeHwnd(), height, FALSE);
+}
+
+void CTaskPane::addBlocks()
+{
+    for (std::size_t i = 0; i < feed.size(); ++i) {
+        FeedBlock* const block = blockAt(i);
+        if (block == nullptr) {
+            return;
+        }
+        int const height = block->setFeed(feed[i], userInfo);
+        addGroup(feed[i].author.name, *block, height);
+    }
+}
+
+FeedBlock* CTaskPane::createBlock()
+{
+    auto* const block = createChild<FeedBlock>(this);
+    if (block != nullptr) {
+        blocks.push_back(block);
+    }
+    return block;
+}
+
+FeedBlock* CTaskPane::blockAt(std::size_t index)
+{
+    if (index < blocks.size()) {
+        return blocks[index];
+    }
+    FeedBlock* const block = createBlock();
+    if (block != nullptr) {
+        // The others had their document from the hint that opened it.
+        orvui::Hint opened(orv::HintCode::documentOpened, document);
+        block->OnUpdate(&opened);
+    }
+    return block;
+}
