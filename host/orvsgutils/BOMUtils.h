@@ -14,7 +14,9 @@ namespace orvsgutils
 class BOMUtils
 {
 public:
-    /// Fills the bill of materials from the assembly tree and sets its report level. An empty pointer changes nothing.
+    /// Fills the bill of materials from the assembly tree for a report level (SCBom::reportLevel) and notes the level
+    /// in it. Who writes a report calls it with the level that the record then carries. An empty pointer changes
+    /// nothing.
     static void createBOM(std::shared_ptr<orvsg::SCSceneTopo> topology, std::shared_ptr<orvsg::SCBom> bom,
                           int const& level);
 };

@@ -15,8 +15,4 @@ public:
     void AddImageList(_IMAGELIST* images, int size, unsigned long mask);
     /// The same for the collapsed buttons.
     void AddToolbarImageList(_IMAGELIST* images, int size, unsigned long mask);
-
-private:
-    CImageList tabImages;
-    CImageList buttonImages;
 };

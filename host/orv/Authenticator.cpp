@@ -1,0 +1,17 @@
+#include "host/orv/Authenticator.h"
+
+#include "host/orvweb/Exchange.h"
+
+namespace orv
+{
+
+Authenticator::Authenticator(std::wstring const& rootUrl) : root(rootUrl) {}
+
+Authenticator::~Authenticator() = default;
+
+ErrorCode Authenticator::login(OmniInfo const& request, IStatusUpdator* updater)
+{
+    return orvweb::exchange(root, request, orvweb::HttpRequest::Kind::form, updater);
+}
+
+} // namespace orv

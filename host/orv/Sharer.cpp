@@ -1,0 +1,17 @@
+#include "host/orv/Sharer.h"
+
+#include "host/orvweb/Exchange.h"
+
+namespace orv
+{
+
+Sharer::Sharer(std::wstring const& rootUrl) : root(rootUrl) {}
+
+Sharer::~Sharer() = default;
+
+ErrorCode Sharer::share(OmniInfo const& request, IStatusUpdator* updater)
+{
+    return orvweb::exchange(root, request, orvweb::HttpRequest::Kind::form, updater);
+}
+
+} // namespace orv

@@ -1,0 +1,60 @@
+#include "host/orvweb/Exchange.h"
+
+#include "host/orv/IStatusUpdator.h"
+#include "host/orvweb/CurlTransport.h"
+#include "host/orvweb/RequestBuilder.h"
+#include "platform/text/Text.h"
+
+#include <memory>
+#include <utility>
+
+namespace orvweb
+{
+
+namespace
+{
+
+constexpr int uploadKind = 0;
+constexpr int downloadKind = 1;
+
+/// The transport that took the product's own place; empty while nobody did.
+std::shared_ptr<ITransport>& replacement()
+{
+    static std::shared_ptr<ITransport> transport;
+    return transport;
+}
+
+std::shared_ptr<ITransport> currentTransport()
+{
+    static auto const own = std::make_shared<CurlTransport>();
+    return replacement() ? replacement() : own;
+}
+
+} // namespace
+
+std::shared_ptr<ITransport> setTransport(std::shared_ptr<ITransport> transport)
+{
+    return std::exchange(replacement(), std::move(transport));
+}
+
+orv::ErrorCode exchange(std::wstring const& root, orv::OmniInfo const& record, HttpRequest::Kind kind,
+                        orv::IStatusUpdator* updater)
+{
+    auto const request = buildRequest(root, record, kind);
+    if (!request) {
+        return orv::ErrorCode::invalidRequest;
+    }
+    TransferProgress progress;
+    if (updater != nullptr) {
+        progress = [updater](bool isUpload, int percent) {
+            updater->updateProgress(isUpload ? uploadKind : downloadKind, percent);
+        };
+    }
+    HttpResponse const response = currentTransport()->send(*request, progress);
+    if (response.code == orv::ErrorCode::none && updater != nullptr) {
+        updater->updateResponse(downloadKind, orvtext::widenBytes(response.body));
+    }
+    return response.code;
+}
+
+} // namespace orvweb
