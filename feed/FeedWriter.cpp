@@ -1,10 +1,9 @@
 #include "feed/FeedWriter.h"
 
 #include "platform/text/Text.h"
+#include "service/ReplaceAll.h"
 
 #include <json/json.h>
-
-#include <string_view>
 
 // The exact text of this writer is what the service stores and compares; the library's newer one writes another.
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
@@ -55,16 +54,6 @@ void addObjects(Json::Value& comment, FeedObjects const& objects)
     }
 }
 
-/// Replaces the word everywhere, inside texts too: that is how records stand at the service.
-void replaceNull(std::string& text)
-{
-    constexpr std::string_view word = "null";
-    constexpr std::string_view replacement = "[]";
-    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + replacement.size())) {
-        text.replace(at, word.size(), replacement);
-    }
-}
-
 } // namespace
 
 std::wstring FeedWriter::write(Feed const& feed) const
@@ -97,7 +86,6 @@ std::wstring FeedWriter::write(Feed const& feed) const
     root["source"] = textValue(feed.source);
     root["thumbnail"] = textValue(feed.thumbnail);
 
-    std::string text = Json::FastWriter().write(root);
-    replaceNull(text);
-    return orvtext::fromUtf8(text);
+    // Over the whole text, what users wrote included: that is how records stand at the service.
+    return orvtext::fromUtf8(replaceAll(Json::FastWriter().write(root), "null", "[]"));
 }

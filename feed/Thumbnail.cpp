@@ -1,6 +1,7 @@
 #include "feed/Thumbnail.h"
 
 #include "platform/text/Text.h"
+#include "service/ReplaceAll.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -14,13 +15,6 @@ constexpr std::size_t webPrefixLength = 22; // the web client's prefix is one ch
 
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
 
-void replaceAll(std::string& text, std::string_view word, std::string_view replacement)
-{
-    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + replacement.size())) {
-        text.replace(at, word.size(), replacement);
-    }
-}
-
 } // namespace
 
 bool hasThumbnail(Feed const& feed)
@@ -33,7 +27,7 @@ std::string decodeThumbnail(Feed const& feed)
     // One byte a 16-bit character, so the prefix can be counted off after the narrowing.
     std::string payload = orvtext::narrowLowBytes(feed.thumbnail);
     payload.erase(0, feed.source == L"web" ? webPrefixLength : prefixLength);
-    replaceAll(payload, "%2b", "+");
+    payload = replaceAll(payload, "%2b", "+");
     std::erase(payload, '\n');
     std::erase(payload, '\r');
     return decodeBase64(payload);

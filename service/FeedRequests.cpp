@@ -3,10 +3,9 @@
 #include "host/orv/GetAPI.h"
 #include "host/orv/PostAPI.h"
 #include "platform/text/Text.h"
+#include "service/ReplaceAll.h"
 #include "service/Request.h"
 #include "service/RequestFile.h"
-
-#include <string_view>
 
 namespace
 {
@@ -24,12 +23,7 @@ orv::OmniInfo openFeedRequest(std::wstring const& name, std::wstring const& endp
 /// U+00FF loses its high bits and one above U+007F comes out as U+FF80 or above; the texts of FeedWriter hold neither.
 std::wstring escapePlusSigns(std::wstring const& comment)
 {
-    std::string text = orvtext::narrowLowBytes(comment);
-    constexpr std::string_view escape = "%2b";
-    for (std::size_t at = text.find('+'); at != std::string::npos; at = text.find('+', at + escape.size())) {
-        text.replace(at, 1, escape);
-    }
-    return orvtext::widenSignExtended(text);
+    return orvtext::widenSignExtended(replaceAll(orvtext::narrowLowBytes(comment), "+", "%2b"));
 }
 
 } // namespace
