@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvcloud
+{
+
+/// Gives the present moment in seconds since 1970 (UTC). Injected, so that expiry and throttling can be tested.
+using Clock = std::function<std::int64_t()>;
+
+/// The system's own clock.
+Clock systemClock();
+
+/// True for well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
+bool isUtf8(std::string_view text);
+
+/// True if the text holds a byte below 0x20 or 0x7f.
+bool hasControlCharacter(std::string_view text);
+
+/// Letters A to Z in lower case, all other bytes as they are. E-mail addresses are compared in this form.
+std::string lowerAscii(std::string_view text);
+
+/// Without blanks, tabs and line ends at either side.
+std::string_view trimmed(std::string_view text);
+
+std::vector<std::string_view> split(std::string_view text, std::string_view separators);
+
+/// A text enclosed in quotation marks as JSON writes it, ASCII only. The text is UTF-8 without NUL.
+std::string jsonString(std::string_view text);
+
+/// A moment as mail and log lines show it, e.g. "2026-11-20T08:25:01Z".
+std::string isoTime(std::int64_t seconds);
+
+/// True for an address that mail can be sent to: one "@", something on both sides, no blanks, control characters,
+/// quotation marks, commas or angle brackets, at most 254 bytes. Whether it exists is for the mail system to find out.
+bool isMailAddress(std::string_view address);
+
+} // namespace orvcloud
