@@ -1,0 +1,128 @@
+#include "viewer/import/ModelImporter.h"
+
+#include "host/orvgl/SCRenderer.h"
+#include "host/orvsg/SCBom.h"
+#include "host/orvsg/SCInfo.h"
+#include "host/orvsg/SCPmi.h"
+#include "viewer/import/AssemblyWalker.h"
+#include "viewer/import/FileKind.h"
+#include "viewer/import/StepReferences.h"
+#include "viewer/import/XcafReader.h"
+
+#include <Message.hxx>
+#include <Message_Messenger.hxx>
+#include <Message_PrinterOStream.hxx>
+#include <Message_ProgressIndicator.hxx>
+#include <Message_ProgressScope.hxx>
+#include <Standard_Failure.hxx>
+
+#include <exception>
+#include <filesystem>
+#include <mutex>
+
+namespace orvviewer
+{
+
+namespace
+{
+
+class ProgressBridge : public Message_ProgressIndicator
+{
+    DEFINE_STANDARD_RTTI_INLINE(ProgressBridge, Message_ProgressIndicator)
+
+public:
+    explicit ProgressBridge(ImportProgress& target) : progress(target) {}
+
+    Standard_Boolean UserBreak() override { return progress.stopRequested.load(); }
+    void Show(Message_ProgressScope const&, Standard_Boolean) override
+    {
+        progress.percent = static_cast<int>(GetPosition() * 100.0);
+    }
+
+private:
+    ImportProgress& progress;
+};
+
+/// The kernel reports to standard output, where nobody looks.
+void silenceKernel()
+{
+    static std::once_flag once;
+    std::call_once(once, [] { Message::DefaultMessenger()->RemovePrinters(STANDARD_TYPE(Message_PrinterOStream)); });
+}
+
+std::shared_ptr<orv::Document> makeDocument(SceneRecords records, std::wstring const& path)
+{
+    auto const nodeCount = records.topology->nodes.size();
+    auto info = std::make_shared<orvsg::SCInfo>();
+    info->setFile(path);
+    info->documentKind = nodeCount > 1 ? orvsg::SCInfo::assembly : orvsg::SCInfo::part;
+
+    auto document = std::make_shared<orv::Document>();
+    document->setSchema(orvsg::SCSceneTopo::key, std::move(records.topology));
+    document->setSchema(orvsg::SCSceneRes::key, std::move(records.resources));
+    document->setSchema(orvsg::SCSceneRT::key, std::move(records.runtime));
+    document->setSchema(EdgeRecord::key, std::move(records.edges));
+    document->setSchema(orvsg::SCInfo::key, std::move(info));
+    document->setSchema(orvgl::SCRenderer::key, std::make_shared<orvgl::SCRenderer>());
+    document->setSchema(orvsg::SCPmi::key, std::make_shared<orvsg::SCPmi>());
+    document->setSchema(orvsg::SCBom::BOM, std::make_shared<orvsg::SCBom>());
+    return document;
+}
+
+ImportResult failed(std::wstring const& name, wchar_t const* what)
+{
+    return {nullptr, L"\"" + name + L"\" " + what, false};
+}
+
+ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& progress)
+{
+    std::filesystem::path const file(path);
+    auto const name = file.filename().wstring();
+    Handle(ProgressBridge) const bridge = new ProgressBridge(progress);
+    Message_ProgressScope whole(bridge->Start(), "Opening", 100);
+
+    if (kind == FileKind::step && !hasAllReferences(file.string())) {
+        return failed(name, L"isn't whole: entries that others refer to are missing. Copy or export the file again.");
+    }
+    Handle(TDocStd_Document) structured = new TDocStd_Document("BinXCAF");
+    bool const isRead = readStructured(kind, file.string(), structured, whole.Next(50));
+    if (progress.stopRequested) {
+        return {nullptr, L"Opening \"" + name + L"\" was stopped.", true};
+    }
+    if (!isRead) {
+        return failed(name, L"can't be read: its content is damaged. Export the model again and open the new file.");
+    }
+    auto records = walkAssembly(structured, file.stem().wstring(), whole.Next(50));
+    if (progress.stopRequested) {
+        return {nullptr, L"Opening \"" + name + L"\" was stopped.", true};
+    }
+    if (records.resources->meshes.empty()) {
+        return failed(name, L"holds no part with surfaces. Export the model with its solids and open the new file.");
+    }
+    progress.percent = 100;
+    return {makeDocument(std::move(records), std::filesystem::absolute(file).lexically_normal().wstring()), {}, false};
+}
+
+} // namespace
+
+ImportResult importModel(std::wstring const& path, ImportProgress& progress)
+{
+    std::wstring name;
+    try {
+        name = std::filesystem::path(path).filename().wstring();
+        auto const check = checkFile(path);
+        if (!check.error.empty()) {
+            return {nullptr, check.error, false};
+        }
+        silenceKernel();
+        return readModel(path, check.kind, progress);
+    } catch (Standard_Failure const&) {
+        return failed(name, L"can't be read: its content is damaged. Export the model again and open the new file.");
+    } catch (std::bad_alloc const&) {
+        return failed(name, L"needs more memory than there is. Close other programs and try again.");
+    } catch (std::exception const&) {
+        return failed(name, L"can't be opened. Check the file and try again.");
+    }
+}
+
+} // namespace orvviewer
