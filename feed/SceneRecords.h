@@ -23,8 +23,8 @@ struct SceneRecords {
     {
     }
 
-    /// The node states can be read and changed.
-    bool hasScene() const { return resources && topology && runtime; }
+    /// The nodes' colours and placements can be read and changed.
+    bool hasTree() const { return resources && topology; }
 
     std::shared_ptr<orvsg::SCSceneRes> resources;
     std::shared_ptr<orvsg::SCSceneTopo> topology;

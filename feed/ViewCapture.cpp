@@ -105,6 +105,20 @@ void captureColors(SceneRecords& records, FeedObjects& objects)
     }
 }
 
+void captureAppearance(orvsg::SCSceneRT const& runtime, FeedObjects& objects)
+{
+    for (int const node : runtime.transparentNodes) {
+        if (node != -1) {
+            objects.transparent.push_back(node);
+        }
+    }
+    for (std::size_t node = 0; node < runtime.visibility.size(); ++node) {
+        if (!runtime.visibility[node]) {
+            objects.hidden.push_back(static_cast<int>(node));
+        }
+    }
+}
+
 void captureMovedNodes(SceneRecords const& records, FeedObjects& objects)
 {
     std::set<int> moved;
@@ -118,22 +132,15 @@ void captureMovedNodes(SceneRecords const& records, FeedObjects& objects)
 FeedObjects captureObjects(SceneRecords& records)
 {
     FeedObjects objects;
-    if (!records.hasScene()) {
-        return objects;
+    if (records.hasTree() && records.runtime) {
+        captureColors(records, objects);
     }
-    captureColors(records, objects);
-    for (int const node : records.runtime->transparentNodes) {
-        if (node != -1) {
-            objects.transparent.push_back(node);
-        }
+    if (records.runtime) {
+        captureAppearance(*records.runtime, objects);
     }
-    auto const& visibility = records.runtime->visibility;
-    for (std::size_t node = 0; node < visibility.size(); ++node) {
-        if (!visibility[node]) {
-            objects.hidden.push_back(static_cast<int>(node));
-        }
+    if (records.hasTree()) {
+        captureMovedNodes(records, objects);
     }
-    captureMovedNodes(records, objects);
     return objects;
 }
 

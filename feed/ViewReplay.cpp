@@ -22,7 +22,7 @@ void resetAppearance(SceneRecords& records)
         auto& visibility = records.runtime->visibility;
         std::fill(visibility.begin(), visibility.end(), true);
     }
-    if (records.hasScene()) {
+    if (records.hasTree()) {
         orvsgutils::MaterialUtils::resetAll(records.resources, records.runtime, records.topology);
     }
 }
@@ -36,7 +36,7 @@ void applyCamera(FeedViewport const& viewport, SceneRecords& records)
     Vector3 centre;
     float radius = 1.0F;
     orvsg::BBox box;
-    if (records.hasScene() && records.info && records.resources->boxes.size() != 0) {
+    if (records.hasTree() && records.info && records.resources->boxes.size() != 0) {
         box = orvsgutils::BBoxUtils::get(records.resources, records.topology, records.pmi, records.runtime,
                                          records.info->documentKind, true, true);
     }
@@ -55,7 +55,7 @@ void applyVisibility(FeedObjects const& objects, SceneRecords& records)
 
 void applyTransparency(FeedObjects const& objects, SceneRecords& records)
 {
-    if (!records.hasScene()) {
+    if (!records.hasTree()) {
         return;
     }
     for (int const node : objects.transparent) {
@@ -101,7 +101,7 @@ void restoreView(std::shared_ptr<orv::IDocument> const& document, Feed const& fe
 std::set<int> resetTransforms(SceneRecords& records)
 {
     std::set<int> nodes;
-    if (!records.topology || !records.resources) {
+    if (!records.hasTree()) {
         return nodes;
     }
     int node = 0;
@@ -115,7 +115,7 @@ std::set<int> resetTransforms(SceneRecords& records)
 
 void applyColors(FeedObjects const& objects, SceneRecords& records)
 {
-    if (!records.hasScene()) {
+    if (!records.hasTree()) {
         return;
     }
     auto const color = [&records](int node, unsigned long packed) {
@@ -136,7 +136,7 @@ void applyColors(FeedObjects const& objects, SceneRecords& records)
 
 void applyTransforms(FeedObjects const& objects, SceneRecords& records)
 {
-    if (objects.nodetransform.empty() || !records.topology || !records.resources) {
+    if (objects.nodetransform.empty() || !records.hasTree()) {
         return;
     }
     std::set<int> const nodes = resetTransforms(records);
