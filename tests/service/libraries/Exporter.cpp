@@ -1,0 +1,49 @@
+// An exporter plug-in as small as they get: writes how many settings it was given.
+#include "host/orv/Preferences.h"
+#include "host/orvexp/IExporter.h"
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+namespace
+{
+
+class Exporter final : public orvexp::IExporter
+{
+public:
+    wchar_t const* getName() override { return ORV_TEST_NAME; }
+    PluginType getType() override { return exporterPlugin; }
+    std::shared_ptr<orv::Preferences> loadPreferences(std::shared_ptr<orv::IPreferencesRegistry> /*registry*/) override
+    {
+        return nullptr;
+    }
+    void savePreferences(std::shared_ptr<orv::IPreferencesRegistry> /*registry*/,
+                         std::shared_ptr<orv::Preferences> /*preferences*/) override
+    {
+    }
+    orvexp::Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& /*document*/,
+                        std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* /*status*/) override
+    {
+        std::ofstream(std::filesystem::path(path))
+            << "native with " << (preferences ? preferences->entries().size() : 0) << " settings";
+        return orvexp::Status::ok;
+    }
+    bool takes(wchar_t const* path) override { return std::wstring(path).ends_with(ORV_TEST_EXTENSION); }
+};
+
+} // namespace
+
+extern "C" int createPlugin(orv::IPlugin** plugin)
+{
+    *plugin = new Exporter;
+    return 0;
+}
+
+extern "C" int destroyPlugin(orv::IPlugin** plugin)
+{
+    delete *plugin;
+    *plugin = nullptr;
+    return 0;
+}

@@ -1,0 +1,216 @@
+#include "ui/account/SessionStore.h"
+
+#include "support/PluginEnvironment.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+using orvtest::contentOf;
+using orvtest::writeFile;
+
+namespace
+{
+
+std::wstring const token = L"0f8fad5b-d9cb-469f-a165-70867728950e";
+
+class SessionStore : public testing::Test
+{
+protected:
+    SessionStore()
+    {
+        user.username = L"before";
+        user.userid = L"before";
+        user.name = L"before";
+    }
+
+    orvtest::PluginEnvironment environment;
+    orvweb::UserInfo user;
+};
+
+TEST_F(SessionStore, LiesInTheCloudDirectoryUnderItsName)
+{
+    SessionFile const session;
+    EXPECT_EQ(std::filesystem::path(session.path()), environment.data / "Cloud/temp");
+    EXPECT_EQ(std::filesystem::path(session.directory()), environment.data / "Cloud");
+}
+
+TEST_F(SessionStore, WorksOutItsPathAnew)
+{
+    SessionFile const before;
+    orvtest::PluginEnvironment const another;
+    EXPECT_NE(SessionFile().path(), before.path());
+}
+
+TEST_F(SessionStore, EndsEveryLine)
+{
+    SessionFile const session;
+    session.write(L"ada@example.com", token);
+    EXPECT_EQ(contentOf(environment.session()), "ada@example.com\n0f8fad5b-d9cb-469f-a165-70867728950e\n");
+    session.write(L"ada@example.com", token, L"Ada");
+    EXPECT_EQ(contentOf(environment.session()), "ada@example.com\n0f8fad5b-d9cb-469f-a165-70867728950e\nAda\n");
+    session.write(L"", L"");
+    EXPECT_EQ(contentOf(environment.session()), "\n\n") << "the longer text before is gone";
+}
+
+TEST_F(SessionStore, ReadsBackWhatItWrote)
+{
+    SessionFile().write(L"ada@example.com", token, L"J\u00fcrgen \u00ff");
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.username, L"ada@example.com");
+    EXPECT_EQ(user.userid, token);
+    EXPECT_EQ(user.name, L"J\u00fcrgen \u00ff");
+    EXPECT_EQ(contentOf(environment.session()).substr(53), "J\xFCrgen \xFF\n") << "one byte a character";
+}
+
+TEST_F(SessionStore, ReadsAsManyLinesAsItIsAskedFor)
+{
+    SessionFile().write(L"ada@example.com", token, L"Ada");
+    ASSERT_TRUE(SessionFile().readTwo(user));
+    EXPECT_EQ(user.username, L"ada@example.com");
+    EXPECT_EQ(user.userid, token);
+    EXPECT_EQ(user.name, L"before");
+    std::wstring name;
+    ASSERT_TRUE(SessionFile().readFirst(name));
+    EXPECT_EQ(name, L"ada@example.com");
+}
+
+TEST_F(SessionStore, ThatIsMissingChangesNothing)
+{
+    EXPECT_FALSE(SessionFile().canOpen());
+    EXPECT_FALSE(SessionFile().read(user));
+    EXPECT_EQ(user.username, L"before");
+    EXPECT_EQ(user.userid, L"before");
+    std::wstring name = L"before";
+    EXPECT_FALSE(SessionFile().readFirst(name));
+    EXPECT_EQ(name, L"before");
+}
+
+TEST_F(SessionStore, ThatIsEmptyOpensAndEmptiesTheFirstFieldAlone)
+{
+    SessionFile().createEmpty();
+    EXPECT_TRUE(SessionFile().canOpen());
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.username, L"");
+    EXPECT_EQ(user.userid, L"before");
+    EXPECT_EQ(user.name, L"before");
+}
+
+TEST_F(SessionStore, LeftEmptyByAFailedLogoutGivesAnEmptyUserAtTheStart)
+{
+    SessionFile().createEmpty();
+    orvweb::UserInfo fresh;
+    ASSERT_TRUE(SessionFile().read(fresh));
+    EXPECT_EQ(fresh.username, L"");
+    EXPECT_EQ(fresh.userid, L"");
+    EXPECT_EQ(fresh.name, L"");
+}
+
+TEST_F(SessionStore, OfOneLineGivesTheUserNameAlone)
+{
+    writeFile(environment.session(), "ada@example.com\n");
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.username, L"ada@example.com");
+    EXPECT_EQ(user.userid, L"");
+    EXPECT_EQ(user.name, L"before");
+}
+
+TEST_F(SessionStore, OfTwoLinesEmptiesTheName)
+{
+    SessionFile().write(L"ada@example.com", token);
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.userid, token);
+    EXPECT_EQ(user.name, L"");
+}
+
+TEST_F(SessionStore, StopsAtTheEndOfTheThirdLine)
+{
+    writeFile(environment.session(), "ada@example.com\ntoken\nAda\n\nmore\n");
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.name, L"Ada");
+}
+
+TEST_F(SessionStore, ReadsALastLineWithoutItsEnd)
+{
+    writeFile(environment.session(), "ada@example.com\ntoken\nAda");
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.name, L"Ada");
+}
+
+TEST_F(SessionStore, TakesEveryByteForACharacter)
+{
+    std::string bytes;
+    for (int value = 0; value < 256; ++value) {
+        if (value != '\n') {
+            bytes.push_back(static_cast<char>(value));
+        }
+    }
+    writeFile(environment.session(), bytes + "\n");
+    std::wstring line;
+    ASSERT_TRUE(SessionFile().readFirst(line));
+    ASSERT_EQ(line.size(), 255U);
+    EXPECT_EQ(line[0], L'\0');
+    EXPECT_EQ(line[254], L'\u00ff');
+    SessionFile().write(line, L"");
+    EXPECT_EQ(contentOf(environment.session()), bytes + "\n\n");
+}
+
+TEST_F(SessionStore, KeepsWhatStandsBeforeACharacterThatHasNoByteOnce)
+{
+    EXPECT_NO_THROW(SessionFile().write(L"ada@example.com", token, L"Jos\u00e9 \u0141ukasz"));
+    EXPECT_EQ(contentOf(environment.session()), "ada@example.com\n0f8fad5b-d9cb-469f-a165-70867728950e\nJos\xE9 ");
+    EXPECT_NO_THROW(SessionFile().write(L"a\U0001f600b", token));
+    EXPECT_EQ(contentOf(environment.session()), "a") << "nothing follows, the second line neither";
+    EXPECT_NO_THROW(SessionFile().write(L"\u0100", token));
+    EXPECT_EQ(contentOf(environment.session()), "");
+}
+
+TEST_F(SessionStore, IsEmptiedAndRemoved)
+{
+    SessionFile const session;
+    session.write(L"ada@example.com", token);
+    session.createEmpty();
+    EXPECT_EQ(contentOf(environment.session()), "");
+    EXPECT_TRUE(session.canOpen());
+    session.remove();
+    EXPECT_FALSE(std::filesystem::exists(environment.session()));
+    EXPECT_FALSE(session.canOpen());
+    session.remove();
+}
+
+TEST_F(SessionStore, LosesItsDirectoryOnlyWhenNothingElseLiesThere)
+{
+    SessionFile const session;
+    writeFile(environment.cloud("share"), "");
+    session.removeDirectory();
+    EXPECT_TRUE(std::filesystem::exists(environment.cloud("share")));
+    std::filesystem::remove(environment.cloud("share"));
+    session.removeDirectory();
+    EXPECT_FALSE(std::filesystem::exists(environment.cloud()));
+    EXPECT_FALSE(session.canOpen());
+
+    SessionFile().write(L"ada@example.com", token);
+    EXPECT_TRUE(SessionFile().canOpen()) << "the directory is made again on demand";
+}
+
+TEST_F(SessionStore, IsForTheUserAlone)
+{
+    using std::filesystem::perms;
+    SessionFile().write(L"ada@example.com", token);
+    EXPECT_EQ(std::filesystem::status(environment.session()).permissions(), perms::owner_read | perms::owner_write);
+    SessionFile().createEmpty();
+    EXPECT_EQ(std::filesystem::status(environment.session()).permissions(), perms::owner_read | perms::owner_write);
+}
+
+TEST_F(SessionStore, ReportsNothingWhereItCantBeWritten)
+{
+    std::filesystem::create_directories(environment.session() / "in the way");
+    SessionFile const session;
+    EXPECT_NO_THROW(session.createEmpty());
+    EXPECT_NO_THROW(session.write(L"ada@example.com", token));
+    EXPECT_NO_THROW(session.remove());
+    EXPECT_NO_THROW(session.read(user));
+}
+
+} // namespace
