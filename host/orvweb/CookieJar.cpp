@@ -5,6 +5,8 @@
 #include "host/runtime/Runtime.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <memory>
 #include <sstream>
@@ -27,6 +29,19 @@ std::wstring jarPath()
 bool isCookieLine(std::string const& line)
 {
     return std::count(line.begin(), line.end(), '\t') == 6;
+}
+
+/// The fifth field is the time of expiry in seconds since 1970; 0 stands for a session cookie. libcurl lists a cookie
+/// that the service has just taken back until it next looks for one to send.
+bool hasExpired(std::string const& line, std::time_t now)
+{
+    std::istringstream fields(line);
+    std::string field;
+    for (int i = 0; i < 5; ++i) {
+        std::getline(fields, field, '\t');
+    }
+    long long const expiry = std::strtoll(field.c_str(), nullptr, 10);
+    return expiry != 0 && expiry <= static_cast<long long>(now);
 }
 
 } // namespace
@@ -54,8 +69,11 @@ void CookieJar::save(CURL* handle)
     curl_easy_getinfo(handle, CURLINFO_COOKIELIST, &list);
     std::unique_ptr<curl_slist, void (*)(curl_slist*)> const owner(list, curl_slist_free_all);
     std::string text;
+    std::time_t const now = std::time(nullptr);
     for (curl_slist const* line = list; line != nullptr; line = line->next) {
-        text.append(line->data).push_back('\n');
+        if (!hasExpired(line->data, now)) {
+            text.append(line->data).push_back('\n');
+        }
     }
     if (text == content) {
         return;

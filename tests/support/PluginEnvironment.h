@@ -1,18 +1,14 @@
 #pragma once
 
-#include "host/runtime/Runtime.h"
 #include "platform/Process.h"
-#include "platform/text/Text.h"
+#include "support/HostSession.h"
 
 #include <gtest/gtest.h>
-
-#include <stdlib.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
-#include <system_error>
 
 namespace orvtest
 {
@@ -29,51 +25,36 @@ inline void writeFile(std::filesystem::path const& file, std::string const& cont
     std::ofstream(file, std::ios::binary) << content;
 }
 
-/// While it lives, the plug-in's code runs on a data directory of its own and finds its texts, those that the build
-/// compiled. The suite defines ORV_RESOURCE_FILE.
+/// While it lives, the plug-in's code runs on a data directory of its own, without any exporters, and finds its texts,
+/// those that the build compiled. The suite defines ORV_RESOURCE_FILE.
 class PluginEnvironment
 {
 public:
-    PluginEnvironment()
+    PluginEnvironment() : host(L"http://127.0.0.1:9"), data(host.dataDirectory())
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "orvanta-test-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) {
-            ADD_FAILURE() << "no directory for the test's data";
-        }
-        data = pattern;
-        orvhost::Settings settings;
-        settings.dataDirectory = data.wstring();
-        settings.libraryDirectory = (data / "libraries").wstring();
-        settings.serviceUrl = L"http://127.0.0.1:9";
-        orvhost::configure(settings);
+        std::filesystem::create_directories(data);
+        setLibraries(data / "libraries");
         EXPECT_TRUE(orvplatform::registerModuleFile(L"cloudplugin.dll", ORV_RESOURCE_FILE));
     }
-    ~PluginEnvironment()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(data, ignored);
-    }
-    PluginEnvironment(PluginEnvironment const&) = delete;
-    PluginEnvironment& operator=(PluginEnvironment const&) = delete;
 
     void setLanguage(std::wstring const& code)
     {
-        orvhost::Settings settings = orvhost::settings();
-        settings.language = code;
-        orvhost::configure(settings);
+        host.reconfigure([&](orvhost::Settings& settings) { settings.language = code; });
     }
     void setLibraries(std::filesystem::path const& directory)
     {
-        orvhost::Settings settings = orvhost::settings();
-        settings.libraryDirectory = directory.wstring();
-        orvhost::configure(settings);
+        host.reconfigure([&](orvhost::Settings& settings) { settings.libraryDirectory = directory.wstring(); });
     }
 
     std::filesystem::path cloud(std::string const& name = {}) const { return data / "Cloud" / name; }
     std::filesystem::path feed(std::string const& name = {}) const { return data / "Feed" / name; }
     std::filesystem::path session() const { return cloud("temp"); }
 
-    std::filesystem::path data;
+private:
+    HostSession host;
+
+public:
+    std::filesystem::path const data;
 };
 
 } // namespace orvtest
