@@ -25,6 +25,13 @@
 namespace
 {
 
+/// Texts of the plug-in. They name values of a record and are the same in every language.
+constexpr int sourceText = 205;
+constexpr int commentTypeText = 206;
+constexpr int actionTypeText = 207;
+constexpr int actionValueText = 208;
+constexpr int thumbnailPrefixText = 209;
+
 constexpr unsigned int pictureSize = 256;
 constexpr unsigned long pictureMask = 0xFF00FF;
 constexpr double recordedZoom = 1.0;
@@ -154,12 +161,12 @@ Feed captureView(std::shared_ptr<orv::IDocument> const& document, orvweb::UserIn
     std::wstring const time = currentTimeText();
     std::wstring const fileName = records.info ? modelName(records.info->file()) : std::wstring();
 
-    FeedAction const action(pluginText(207), pluginText(208));
+    FeedAction const action(pluginText(actionTypeText), pluginText(actionValueText));
     std::wstring const identity = orv::GUID().toString();
     std::wstring const commentId = identity.substr(1, identity.size() - 2);
-    std::wstring const commentType = pluginText(206);
-    std::wstring const source = pluginText(205);
-    std::wstring const thumbnail = pluginText(209) + encodeFileBase64(imagePath);
+    std::wstring const commentType = pluginText(commentTypeText);
+    std::wstring const source = pluginText(sourceText);
+    std::wstring const thumbnail = pluginText(thumbnailPrefixText) + encodeFileBase64(imagePath);
 
     FeedViewport const viewport = captureCamera(records);
     FeedObjects objects = captureObjects(records);

@@ -6,16 +6,26 @@
 
 #include <utility>
 
+namespace
+{
+
+/// Texts of the plug-in.
+constexpr int uploadingText = 116;
+constexpr int uploadedText = 117; ///< follows the model's name
+constexpr int failedText = 129;
+
+} // namespace
+
 PushFeedback::PushFeedback(std::shared_ptr<orv::IApplication> target) : application(std::move(target)) {}
 
 void PushFeedback::showUploading()
 {
-    show(pluginText(116));
+    show(pluginText(uploadingText));
 }
 
 void PushFeedback::showFailed()
 {
-    show(pluginText(129));
+    show(pluginText(failedText));
 }
 
 void PushFeedback::showOutcome(std::wstring const& answer, wchar_t const* modelPath)
@@ -23,7 +33,7 @@ void PushFeedback::showOutcome(std::wstring const& answer, wchar_t const* modelP
     if (answer == CloudHelper::uploadFailed) {
         showFailed();
     } else {
-        show(modelName(modelPath) + L" " + pluginText(117));
+        show(modelName(modelPath) + L" " + pluginText(uploadedText));
     }
 }
 
