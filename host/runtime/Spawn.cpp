@@ -43,7 +43,7 @@ pid_t spawn(std::vector<std::string> arguments, int output)
     return error == 0 ? process : -1;
 }
 
-/// Reads until the other end closes, the limit or the deadline. False at the deadline.
+/// Reads until the other end closes. False where that doesn't come before the limit or the deadline.
 bool readOutput(int pipe, std::string& text)
 {
     auto const deadline = std::chrono::steady_clock::now() + patience;
@@ -57,11 +57,11 @@ bool readOutput(int pipe, std::string& text)
         }
         ssize_t const count = ::read(pipe, block, sizeof block);
         if (count <= 0) {
-            break;
+            return count == 0;
         }
         text.append(block, static_cast<std::size_t>(count));
     }
-    return true;
+    return false;
 }
 
 } // namespace

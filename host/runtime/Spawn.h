@@ -12,7 +12,8 @@ namespace orvhost
 /// started.
 bool startProgram(std::vector<std::string> const& arguments);
 
-/// What a program prints, at most 64 KiB of it; empty where it can't be started, fails, or takes longer than 5 seconds.
+/// What a program prints; empty where it can't be started, fails, prints 64 KiB or more, or takes longer than 5
+/// seconds.
 std::optional<std::string> outputOf(std::vector<std::string> const& arguments);
 
 } // namespace orvhost
