@@ -7,7 +7,8 @@
 
 #include <json/json.h>
 
-#include <stdexcept>
+#include <exception>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -258,6 +259,47 @@ TEST(BadFeed, WithAnObjectForItsRootRaisesTheLibrarysException)
     EXPECT_THROW(read(LR"({"Content":"{}"})"), Json::Exception);
     EXPECT_THROW(read(LR"([5])"), Json::Exception);
     EXPECT_THROW(read(LR"([{"Content":{}}])"), Json::Exception);
+}
+
+TEST(DamagedFeed, IsReadOrRefusedWithoutHarm)
+{
+    std::wstring const good = responseOf(
+        R"({"author":{"id":"u","canEdit":true},"commentcontent":{"viewport":{"eye":[1,2.5,-3],"zoom":1},"objects":)"
+        R"({"colored":[[0,0,1]],"hidden":[9,3],"nodecolor":{"7":255},"nodetransform":{"5":[1,2,3]}}},"source":"web"})",
+        "data:image/jpeg;base64,AAAA");
+    std::wstring const pieces = LR"({}[]",:\\0-19.eE+ntfu"\ud8)";
+    std::mt19937 random(20261115);
+    int refused = 0;
+    for (int round = 0; round < 20000; ++round) {
+        std::wstring text = good;
+        for (unsigned change = random() % 4 + 1; change > 0; --change) {
+            std::size_t const at = random() % text.size();
+            wchar_t const piece = pieces[random() % pieces.size()];
+            switch (random() % 3) {
+            case 0:
+                text[at] = piece;
+                break;
+            case 1:
+                text.insert(at, 1, piece);
+                break;
+            default:
+                text.erase(at, random() % 8 + 1);
+            }
+        }
+        try {
+            read(text);
+        } catch (std::exception const&) {
+            ++refused; // the library's own, which the viewer survives
+        }
+    }
+    EXPECT_GT(refused, 0);
+    EXPECT_LT(refused, 20000);
+}
+
+TEST(DamagedFeed, MayBeNestedDeeply)
+{
+    EXPECT_THROW(read(std::wstring(200000, L'[')), std::exception);
+    EXPECT_THROW(read(responseOf(std::string(200000, '['))), std::exception);
 }
 
 } // namespace
