@@ -211,8 +211,9 @@ Handle(TDocStd_Document) makeGearbox()
     Builder builder;
     TDF_Label const root = builder.assembly("Planetary gearbox");
 
-    gp_Trsf toShaft; // the model's z becomes x: the shafts lie level
-    toShaft.SetTransformation(gp_Ax3(gp::Origin(), gp::DY(), gp::DZ()), gp_Ax3(gp::Origin(), gp::DZ(), gp::DX()));
+    // The model's z, x, y become x, y, z: the shafts lie level, and the opening looks at who stands in front.
+    gp_Trsf toShaft;
+    toShaft.SetDisplacement(gp_Ax3(gp::Origin(), gp::DZ(), gp::DX()), gp_Ax3(gp::Origin(), gp::DX(), gp::DY()));
 
     TDF_Label const ringGearPart =
         builder.part("Ring gear", makeRingGear(), darkSteel, wedgePlanes(openDirection, ringOpening));

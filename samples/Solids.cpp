@@ -3,12 +3,14 @@
 #include <BRepAdaptor_Surface.hxx>
 #include <BRepAlgoAPI_Cut.hxx>
 #include <BRepAlgoAPI_Fuse.hxx>
+#include <BRepBuilderAPI_MakeEdge.hxx>
 #include <BRepBuilderAPI_MakeFace.hxx>
 #include <BRepBuilderAPI_MakePolygon.hxx>
-#include <BRepPrimAPI_MakeBox.hxx>
+#include <BRepBuilderAPI_MakeWire.hxx>
 #include <BRepPrimAPI_MakeCylinder.hxx>
 #include <BRepPrimAPI_MakePrism.hxx>
 #include <BRepPrimAPI_MakeRevol.hxx>
+#include <GC_MakeArcOfCircle.hxx>
 #include <GeomAbs_SurfaceType.hxx>
 #include <TopExp_Explorer.hxx>
 #include <TopTools_ListOfShape.hxx>
@@ -16,6 +18,7 @@
 #include <TopoDS_Iterator.hxx>
 #include <gp_Ax1.hxx>
 #include <gp_Ax2.hxx>
+#include <gp_Vec.hxx>
 
 #include <cmath>
 #include <stdexcept>
@@ -72,11 +75,18 @@ TopoDS_Shape ring(double inner, double outer, double z0, double z1)
 TopoDS_Shape keyBody(double width, double y0, double y1, double z0, double z1)
 {
     double const r = width / 2;
-    TopoDS_Shape const bar = BRepPrimAPI_MakeBox(gp_Pnt(-r, y0, z0 + r), gp_Pnt(r, y1, z1 - r)).Solid();
-    auto const end = [&](double z) {
-        return BRepPrimAPI_MakeCylinder(gp_Ax2(gp_Pnt(0, y0, z), gp::DY()), r, y1 - y0).Solid();
+    gp_Pnt const lowLeft(-r, y0, z0 + r);
+    gp_Pnt const lowRight(r, y0, z0 + r);
+    gp_Pnt const highLeft(-r, y0, z1 - r);
+    gp_Pnt const highRight(r, y0, z1 - r);
+    auto const end = [](gp_Pnt const& from, gp_Pnt const& over, gp_Pnt const& to) {
+        return BRepBuilderAPI_MakeEdge(GC_MakeArcOfCircle(from, over, to).Value()).Edge();
     };
-    return fuse({bar, end(z0 + r), end(z1 - r)});
+    BRepBuilderAPI_MakeWire outline(
+        BRepBuilderAPI_MakeEdge(lowLeft, highLeft).Edge(), end(highLeft, gp_Pnt(0, y0, z1), highRight),
+        BRepBuilderAPI_MakeEdge(highRight, lowRight).Edge(), end(lowRight, gp_Pnt(0, y0, z0), lowLeft));
+    BRepBuilderAPI_MakeFace face(outline.Wire(), true);
+    return BRepPrimAPI_MakePrism(face.Shape(), gp_Vec(0, y1 - y0, 0)).Shape();
 }
 
 TopoDS_Shape wedge(double middle, double opening, double reach, double z0, double z1)

@@ -178,6 +178,21 @@ TEST(Gearbox, PaintsTheFacesThatTheOpeningMade)
     EXPECT_EQ(redFaces("Planet gear 1"), 0);
 }
 
+// In the usual view from the front and above, right of the middle, one looks into it.
+TEST(Gearbox, LiesLevelAndOpensToTheFrontAndAbove)
+{
+    GProp_GProps volume;
+    TDF_LabelSequence top;
+    model().shapes->GetComponents(model().root, top);
+    for (TDF_LabelSequence::Iterator item(top); item.More(); item.Next())
+        if (nameOf(item.Value()) == "Housing")
+            BRepGProp::VolumeProperties(XCAFDoc_ShapeTool::GetShape(item.Value()), volume);
+    gp_Pnt const centre = volume.CentreOfMass();
+    EXPECT_GT(centre.X(), 50);
+    EXPECT_GT(centre.Y(), 5);
+    EXPECT_LT(centre.Z(), -5);
+}
+
 TEST(Gearbox, IsTheSameFileEveryTime)
 {
     auto const again = std::filesystem::path(ORV_BINARY_DIR) / "samples" / "again.step";
