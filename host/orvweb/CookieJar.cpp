@@ -48,11 +48,12 @@ bool hasExpired(std::string const& line, std::time_t now)
 
 void CookieJar::load(CURL* handle)
 {
-    curl_easy_setopt(handle, CURLOPT_COOKIEFILE, ""); // switches the cookie engine on and reads nothing
     if (path == jarPath()) {
         return;
     }
     path = jarPath();
+    // A comment line switches the cookie engine on, for the handle's life, and adds nothing.
+    curl_easy_setopt(handle, CURLOPT_COOKIELIST, "#");
     curl_easy_setopt(handle, CURLOPT_COOKIELIST, "ALL");
     content = orvhost::readFile(orvhost::nativePath(path), jarLimit);
     std::istringstream lines(content);
