@@ -24,20 +24,22 @@ struct Route {
 };
 
 constexpr std::uint64_t formLimit = 1U << 20;
+// Nobody is known yet who could be told to stop.
+constexpr std::uint64_t strangersLimit = 16 * 1024;
 // Every byte of the largest comment may come as three, and a plus sign, already escaped by the client, as five.
 constexpr std::uint64_t commentLimit = 5 * largestRecord + 64 * 1024;
 
 const std::vector<Route>& routes()
 {
     static const std::vector<Route> all{
-        {"POST", "/api/Login/", Asks::nothing, logIn, {"username", "password"}, formLimit},
+        {"POST", "/api/Login/", Asks::nothing, logIn, {"username", "password"}, strangersLimit},
         {"POST",
          "/api/InstalledDevice/",
          Asks::cookie,
          recordDevice,
          {"username", "devicename", "devicetype"},
          formLimit},
-        {"POST", "/api/Logout/", Asks::cookieIfThere, logOut, {}, formLimit},
+        {"POST", "/api/Logout/", Asks::cookieIfThere, logOut, {}, strangersLimit},
         {"GET", "/api/AccountInfo/", Asks::token, accountInfo, {"username"}, 0},
         {"GET", "/api/isFilePresent/", Asks::token, findFile, {"username", "filename"}, 0},
         {"POST", "/api/UploadInput/", Asks::token, nullptr, {}, 0},

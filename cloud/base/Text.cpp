@@ -94,13 +94,23 @@ std::string jsonString(std::string_view text)
     return Json::valueToQuotedString(std::string(text).c_str());
 }
 
-std::string isoTime(std::int64_t seconds)
+std::string formattedTime(std::int64_t seconds, const char* form)
 {
     const auto moment = static_cast<std::time_t>(seconds);
     std::tm parts{};
     gmtime_r(&moment, &parts);
-    std::array<char, 32> buffer{};
-    return {buffer.data(), std::strftime(buffer.data(), buffer.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
+    std::array<char, 64> buffer{};
+    return {buffer.data(), std::strftime(buffer.data(), buffer.size(), form, &parts)};
+}
+
+std::string isoTime(std::int64_t seconds)
+{
+    return formattedTime(seconds, "%Y-%m-%dT%H:%M:%SZ");
+}
+
+std::string httpTime(std::int64_t seconds)
+{
+    return formattedTime(seconds, "%a, %d %b %Y %H:%M:%S GMT");
 }
 
 bool isMailAddress(std::string_view address)

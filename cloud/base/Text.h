@@ -33,8 +33,14 @@ std::vector<std::string_view> split(std::string_view text, std::string_view sepa
 /// A text enclosed in quotation marks as JSON writes it, ASCII only. The text is UTF-8 without NUL.
 std::string jsonString(std::string_view text);
 
-/// A moment as mail and log lines show it, e.g. "2026-11-20T08:25:01Z".
+/// A moment as log lines show it, e.g. "2026-11-20T08:25:01Z".
 std::string isoTime(std::int64_t seconds);
+
+/// A moment as HTTP headers show it (RFC 9110, 5.6.7), e.g. "Fri, 20 Nov 2026 08:25:01 GMT".
+std::string httpTime(std::int64_t seconds);
+
+/// A moment in UTC in the form of strftime, whose names are English ones.
+std::string formattedTime(std::int64_t seconds, const char* form);
 
 /// True for an address that mail can be sent to: one "@", something on both sides, no blanks, control characters,
 /// quotation marks, commas or angle brackets, at most 254 bytes. Whether it exists is for the mail system to find out.

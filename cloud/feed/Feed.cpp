@@ -4,7 +4,6 @@
 #include "cloud/base/Text.h"
 
 #include <array>
-#include <ctime>
 #include <utility>
 
 namespace orvcloud
@@ -24,21 +23,12 @@ constexpr std::array<Output, 6> outputs{{{"3ds", "3DS model: click to save it."}
                                          {"pdf", "3D PDF: click to save it."},
                                          {"csv", "Bill of materials (CSV): click to save it."},
                                          {"bompdf", "Bill of materials (PDF): click to save it."}}};
-
-/// In the form of a person's entries, in UTC: "Nov 20, 2026 08:25".
-std::string feedTime(std::int64_t seconds)
-{
-    const auto moment = static_cast<std::time_t>(seconds);
-    std::tm parts{};
-    gmtime_r(&moment, &parts);
-    std::array<char, 64> buffer{};
-    return {buffer.data(), std::strftime(buffer.data(), buffer.size(), "%b %d, %Y %H:%M", &parts)};
-}
 } // namespace
 
 std::vector<FeedEntry> automaticEntries(std::string_view jobId, std::string_view fileName, std::int64_t now)
 {
-    const std::string time = jsonString(feedTime(now));
+    // In the form of a person's entries, but in UTC: "Nov 20, 2026 08:25".
+    const std::string time = jsonString(formattedTime(now, "%b %d, %Y %H:%M"));
     std::vector<FeedEntry> entries;
     for (auto output = outputs.rbegin(); output != outputs.rend(); ++output) {
         FeedEntry entry;

@@ -65,8 +65,11 @@ Answer guarded(ServerState& state, const Work& work)
     return failureOf(500, "The service failed at this request; try again, and tell whoever runs it if it stays so.");
 }
 
-HeadRefusal refusalFor(const error_code& error)
+HeadRefusal refusalFor(const error_code& error, const HttpHeader& read)
 {
+    // The parser ends at a Transfer-Encoding beside a Content-Length, whichever comes first.
+    if (error == http::error::bad_transfer_encoding || read.count(http::field::transfer_encoding) != 0)
+        return transferEncodingRefusal();
     if (error == http::error::header_limit || error == http::error::buffer_overflow)
         return {431, "The request's header is too large."};
     if (error == http::error::bad_version)
@@ -138,7 +141,7 @@ private:
         if (error == http::error::end_of_stream || error == http::error::partial_message)
             co_return false;
         if (error) {
-            const HeadRefusal refusal = refusalFor(error);
+            const HeadRefusal refusal = refusalFor(error, parser.get());
             co_await answer(failureOf(refusal.status, refusal.sentence), false);
             co_return false;
         }
@@ -298,6 +301,7 @@ private:
         const bool goesOn = keepAlive && !state.stopping;
         http::response<http::string_body> response(static_cast<http::status>(given.status), 11);
         response.set(http::field::server, "orvanta-cloud");
+        response.set(http::field::date, httpTime(state.settings.clock()));
         response.set(http::field::content_type, given.contentType);
         response.set(http::field::cache_control, "no-store");
         response.set("X-Content-Type-Options", "nosniff");

@@ -45,13 +45,18 @@ std::string cookieIn(std::string_view cookies, std::string_view wanted)
 }
 } // namespace
 
+HeadRefusal transferEncodingRefusal()
+{
+    return {411, "Send the body's length in Content-Length; Transfer-Encoding isn't taken."};
+}
+
 std::optional<HeadRefusal> checkHead(const HttpHeader& header)
 {
     if (header.version() != 11)
         return HeadRefusal{505, "Only HTTP/1.1 is spoken here."};
     const auto count = [&](auto field) { return header.count(field); };
     if (count(http::field::transfer_encoding) != 0)
-        return HeadRefusal{411, "Send the body's length in Content-Length; Transfer-Encoding isn't taken."};
+        return transferEncodingRefusal();
     if (count(http::field::host) != 1 || valueOf(header, http::field::host).empty() ||
         valueOf(header, http::field::host).find_first_of(" \t,/@") != std::string_view::npos)
         return HeadRefusal{400, "Name the host in exactly one Host header."};

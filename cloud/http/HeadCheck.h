@@ -23,6 +23,9 @@ struct HeadRefusal {
 /// is what two HTTP programs in a row can disagree about.
 std::optional<HeadRefusal> checkHead(const HttpHeader& header);
 
+/// The refusal of any Transfer-Encoding, for the reader of headers to use as well.
+HeadRefusal transferEncodingRefusal();
+
 /// Reads what the application needs from a header that passed.
 RequestHead readHead(const HttpHeader& header);
 

@@ -1,9 +1,9 @@
 #include "cloud/mail/Invitation.h"
 
 #include "cloud/base/Secret.h"
+#include "cloud/base/Text.h"
 
-#include <array>
-#include <ctime>
+#include <algorithm>
 #include <string_view>
 
 namespace orvcloud
@@ -33,15 +33,6 @@ std::string wrapped(const std::string& encoded)
         result += encoded.substr(i, lineLength) + "\r\n";
     return result;
 }
-
-std::string mailDate(std::int64_t seconds)
-{
-    const auto moment = static_cast<std::time_t>(seconds);
-    std::tm parts{};
-    gmtime_r(&moment, &parts);
-    std::array<char, 64> buffer{};
-    return {buffer.data(), std::strftime(buffer.data(), buffer.size(), "%a, %d %b %Y %H:%M:%S +0000", &parts)};
-}
 } // namespace
 
 std::string invitationMail(const Invitation& invitation, std::int64_t now)
@@ -54,8 +45,9 @@ std::string invitationMail(const Invitation& invitation, std::int64_t now)
             "told here:\r\n" +
             invitation.link + "\r\n";
     const auto at = invitation.sender.find('@');
-    return "Date: " + mailDate(now) + "\r\nFrom: " + encodedWords("Orvanta Cloud") + " <" + invitation.sender +
-           ">\r\nReply-To: <" + invitation.inviterAddress + ">\r\nTo: <" + invitation.recipient + ">\r\nSubject: " +
+    return "Date: " + formattedTime(now, "%a, %d %b %Y %H:%M:%S +0000") + "\r\nFrom: " + encodedWords("Orvanta Cloud") +
+           " <" + invitation.sender + ">\r\nReply-To: <" + invitation.inviterAddress + ">\r\nTo: <" +
+           invitation.recipient + ">\r\nSubject: " +
            encodedWords(invitation.inviterName + " has shared " + invitation.modelName + " with you") +
            "\r\nMessage-ID: <" + randomUuid() + invitation.sender.substr(at) +
            ">\r\nMIME-Version: 1.0\r\nContent-Type: text/plain; charset=utf-8\r\nContent-Transfer-Encoding: "

@@ -1,0 +1,257 @@
+#include "cloud/store/Store.h"
+
+#include "cloud/RunningService.h"
+#include "cloud/store/SqliteStore.h"
+#include "cloud/store/StoreError.h"
+
+#include <fstream>
+#include <gmock/gmock.h>
+#include <thread>
+
+using namespace orvcloud;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace
+{
+using OpenStore = std::unique_ptr<Store> (*)(const std::filesystem::path&);
+
+/// What every kind of store must do; one more kind is one more value at the end.
+class StoreTest : public ::testing::TestWithParam<OpenStore>
+{
+protected:
+    StoreTest()
+    {
+        prepareSecrets();
+        store = GetParam()(directory.path);
+        ann = add("ann@example.org");
+        bob = add("bob@example.org");
+    }
+
+    Account add(const std::string& email)
+    {
+        EXPECT_TRUE(store->addAccount(email, "Name of " + email, "public " + email, "hash", 100));
+        return store->findAccount(email).value();
+    }
+
+    std::string addModel(const Account& owner, const std::string& file, std::vector<FeedEntry> first = {})
+    {
+        return store->addVersion(
+            owner.id, file, {"prc", "00ff", 3}, randomUuid(), [&] { return first; }, 100);
+    }
+
+    std::vector<std::string> feedOf(std::int64_t model)
+    {
+        std::vector<std::string> contents;
+        store->readFeed(model, [&](std::string_view content) {
+            contents.emplace_back(content);
+            return true;
+        });
+        return contents;
+    }
+
+    orvcloud::testing::TemporaryDirectory directory;
+    std::unique_ptr<Store> store;
+    Account ann;
+    Account bob;
+};
+} // namespace
+
+TEST_P(StoreTest, KeepsAccounts)
+{
+    EXPECT_EQ(ann.email, "ann@example.org");
+    EXPECT_EQ(ann.name, "Name of ann@example.org");
+    EXPECT_EQ(ann.publicId, "public ann@example.org");
+    EXPECT_EQ(ann.passwordHash, "hash");
+    EXPECT_EQ(store->findAccount("ANN@Example.org").value().id, ann.id);
+    EXPECT_FALSE(store->findAccount("ann@example.com"));
+    EXPECT_FALSE(store->addAccount("Ann@example.org", "Another", "id", "hash", 100));
+    store->setPasswordHash(ann.id, "new hash");
+    EXPECT_EQ(store->findAccount("ann@example.org").value().passwordHash, "new hash");
+    ASSERT_EQ(store->accounts().size(), 2U);
+    EXPECT_EQ(store->accounts()[1].email, "bob@example.org");
+}
+
+TEST_P(StoreTest, KeepsSessionsWhileTheyAreUsed)
+{
+    const auto token = hashOf("token");
+    const auto cookie = hashOf("cookie");
+    store->addSession(ann.id, token, cookie, 1000);
+    EXPECT_EQ(store->accountOfToken(token, 1100, 900).value().id, ann.id);
+    EXPECT_EQ(store->accountOfCookie(cookie, 1100, 900).value().id, ann.id);
+    EXPECT_FALSE(store->accountOfToken(cookie, 1100, 900)) << "one secret doesn't stand for the other";
+    EXPECT_FALSE(store->accountOfCookie(token, 1100, 900));
+    EXPECT_FALSE(store->accountOfToken(hashOf("other"), 1100, 900));
+    EXPECT_FALSE(store->accountOfToken(token, 2000, 1001)) << "unused for too long";
+    EXPECT_TRUE(store->accountOfToken(token, 1300, 900)); // counts as use
+    EXPECT_TRUE(store->accountOfToken(token, 1700, 1300));
+    store->dropSessionsUnusedSince(1700);
+    EXPECT_TRUE(store->accountOfToken(token, 1800, 0));
+    store->dropSessionsUnusedSince(1701);
+    EXPECT_FALSE(store->accountOfToken(token, 1800, 0));
+}
+
+TEST_P(StoreTest, EndsSessions)
+{
+    store->addSession(ann.id, hashOf("t1"), hashOf("c1"), 1000);
+    store->addSession(ann.id, hashOf("t2"), hashOf("c2"), 1000);
+    store->addSession(bob.id, hashOf("t3"), hashOf("c3"), 1000);
+    store->endSessionOfCookie(hashOf("c1"));
+    store->endSessionOfCookie(hashOf("unknown"));
+    EXPECT_FALSE(store->accountOfToken(hashOf("t1"), 1000, 0));
+    EXPECT_TRUE(store->accountOfToken(hashOf("t2"), 1000, 0));
+    store->endSessionsOf(ann.id);
+    EXPECT_FALSE(store->accountOfToken(hashOf("t2"), 1000, 0));
+    EXPECT_TRUE(store->accountOfToken(hashOf("t3"), 1000, 0));
+}
+
+TEST_P(StoreTest, TakesADeviceAgain)
+{
+    store->recordDevice(ann.id, "desk", "pc", 1);
+    EXPECT_NO_THROW(store->recordDevice(ann.id, "desk", "mac", 2));
+    EXPECT_NO_THROW(store->recordDevice(bob.id, "desk", "pc", 3));
+}
+
+TEST_P(StoreTest, AModelKeepsItsJobId)
+{
+    const std::string first = addModel(ann, "a.step", {{"auto", "entry"}});
+    EXPECT_EQ(addModel(ann, "a.step", {{"auto", "another"}}), first);
+    EXPECT_NE(addModel(ann, "b.step"), first);
+    EXPECT_NE(addModel(bob, "a.step"), first);
+    EXPECT_EQ(store->findModel(ann, "a.step").value_or(""), first);
+    EXPECT_FALSE(store->findModel(ann, "A.step"));
+    EXPECT_THAT(feedOf(store->accessTo(ann, first)->modelId), ElementsAre("entry")) << "only a new model gets entries";
+}
+
+TEST_P(StoreTest, AFailedFirstEntryLeavesNoModel)
+{
+    const auto failing = []() -> std::vector<FeedEntry> { throw std::runtime_error("no entries"); };
+    EXPECT_THROW(store->addVersion(ann.id, "a.step", {"prc", "00", 1}, "job", failing, 1), std::runtime_error);
+    EXPECT_FALSE(store->findModel(ann, "a.step"));
+    EXPECT_FALSE(addModel(ann, "a.step").empty()) << "the next transaction isn't hindered";
+}
+
+TEST_P(StoreTest, SharesGiveAccess)
+{
+    const std::string job = addModel(ann, "a.step");
+    const auto own = store->accessTo(ann, job);
+    ASSERT_TRUE(own);
+    EXPECT_TRUE(own->owns);
+    EXPECT_EQ(own->fileName, "a.step");
+    EXPECT_FALSE(store->accessTo(bob, job));
+    EXPECT_FALSE(store->accessTo(bob, "no such job"));
+    EXPECT_FALSE(store->findModel(bob, "a.step"));
+
+    const std::vector<std::string> addresses{"BOB@example.org", "later@example.org"};
+    store->share(own->modelId, addresses, 200);
+    store->share(own->modelId, addresses, 300);
+    ASSERT_TRUE(store->accessTo(bob, job));
+    EXPECT_FALSE(store->accessTo(bob, job)->owns);
+    EXPECT_EQ(store->findModel(bob, "a.step").value_or(""), job);
+    EXPECT_TRUE(store->accessTo(add("later@example.org"), job)) << "the invitation came before the account";
+}
+
+TEST_P(StoreTest, OnesOwnModelGoesBeforeSharedOnes)
+{
+    const Account eve = add("eve@example.org");
+    const std::vector<std::string> toEve{"eve@example.org"};
+    const std::string anns = addModel(ann, "a.step");
+    const std::string bobs = addModel(bob, "a.step");
+    store->share(store->accessTo(bob, bobs)->modelId, toEve, 200);
+    store->share(store->accessTo(ann, anns)->modelId, toEve, 300);
+    EXPECT_EQ(store->findModel(eve, "a.step").value_or(""), anns) << "the latest share";
+    const std::string eves = addModel(eve, "a.step");
+    EXPECT_EQ(store->findModel(eve, "a.step").value_or(""), eves);
+}
+
+TEST_P(StoreTest, AFeedIsNewestFirst)
+{
+    const auto model = store->accessTo(ann, addModel(ann, "a.step", {{"auto1", "low"}, {"auto2", "high"}}))->modelId;
+    EXPECT_EQ(store->putComment(model, ann.id, {"c1", "one"}, 200), CommentChange::done);
+    EXPECT_EQ(store->putComment(model, bob.id, {"c2", "two"}, 200), CommentChange::done);
+    EXPECT_THAT(feedOf(model), ElementsAre("two", "one", "high", "low"));
+    EXPECT_EQ(store->putComment(model, ann.id, {"c1", "one more"}, 300), CommentChange::done);
+    EXPECT_THAT(feedOf(model), ElementsAre("two", "one more", "high", "low")) << "a replaced entry keeps its place";
+    EXPECT_EQ(store->putComment(model, bob.id, {"c1", "taken over"}, 300), CommentChange::refused);
+    EXPECT_EQ(store->putComment(model, ann.id, {"auto1", "taken over"}, 300), CommentChange::refused);
+    EXPECT_THAT(feedOf(model), ElementsAre("two", "one more", "high", "low"));
+
+    int visits = 0;
+    store->readFeed(model, [&](std::string_view) { return ++visits < 2; });
+    EXPECT_EQ(visits, 2);
+}
+
+TEST_P(StoreTest, CommentsBelongToTheirModel)
+{
+    const auto one = store->accessTo(ann, addModel(ann, "a.step"))->modelId;
+    const auto other = store->accessTo(ann, addModel(ann, "b.step"))->modelId;
+    EXPECT_EQ(store->putComment(one, ann.id, {"c1", "one"}, 200), CommentChange::done);
+    EXPECT_EQ(store->putComment(other, bob.id, {"c1", "other"}, 200), CommentChange::done);
+    EXPECT_THAT(feedOf(one), ElementsAre("one"));
+    EXPECT_THAT(feedOf(other), ElementsAre("other"));
+}
+
+TEST_P(StoreTest, AuthorAndOwnerDelete)
+{
+    const auto model = store->accessTo(ann, addModel(ann, "a.step", {{"auto", "entry"}}))->modelId;
+    store->putComment(model, bob.id, {"c1", "one"}, 200);
+    store->putComment(model, bob.id, {"c2", "two"}, 200);
+    EXPECT_EQ(store->deleteComment(model, "c1", add("eve@example.org").id), CommentChange::refused);
+    EXPECT_EQ(store->deleteComment(model, "auto", bob.id), CommentChange::refused);
+    EXPECT_EQ(feedOf(model).size(), 3U);
+    EXPECT_EQ(store->deleteComment(model, "c1", bob.id), CommentChange::done);
+    EXPECT_EQ(store->deleteComment(model, "c2", ann.id), CommentChange::done);
+    EXPECT_EQ(store->deleteComment(model, "auto", ann.id), CommentChange::done);
+    EXPECT_EQ(store->deleteComment(model, "auto", ann.id), CommentChange::absent);
+    EXPECT_THAT(feedOf(model), IsEmpty());
+}
+
+TEST_P(StoreTest, TextsComeBackAsTheyWere)
+{
+    const std::string name = "\xE6\xA8\xA1 '; DROP TABLE model; -- \".step";
+    const std::string content(300'000, 'x');
+    const auto job = addModel(ann, name);
+    const auto model = store->accessTo(ann, job);
+    EXPECT_EQ(model->fileName, name);
+    store->putComment(model->modelId, ann.id, {name, content}, 1);
+    EXPECT_THAT(feedOf(model->modelId), ElementsAre(content));
+}
+
+TEST_P(StoreTest, OutlivesAnotherProcessesUse)
+{
+    const auto second = GetParam()(directory.path); // as the command line opens it beside the service
+    EXPECT_TRUE(second->addAccount("eve@example.org", "Eve", "public", "hash", 100));
+    EXPECT_TRUE(store->findAccount("eve@example.org"));
+    const std::string job = addModel(ann, "a.step");
+    store.reset();
+    store = GetParam()(directory.path);
+    EXPECT_EQ(store->findModel(ann, "a.step").value_or(""), job);
+}
+
+TEST_P(StoreTest, TakesManyThreads)
+{
+    const auto second = GetParam()(directory.path);
+    const auto model = store->accessTo(ann, addModel(ann, "a.step"))->modelId;
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 6; ++t)
+        threads.emplace_back([&, t] {
+            Store& used = t % 2 == 0 ? *store : *second;
+            for (int i = 0; i < 20; ++i) {
+                used.putComment(model, ann.id, {std::to_string(t) + "/" + std::to_string(i), "x"}, 1);
+                used.readFeed(model, [](std::string_view) { return true; });
+            }
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(feedOf(model).size(), 120U);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sqlite, StoreTest, ::testing::Values(&openSqliteStore));
+
+TEST(SqliteStore, SaysWhatIsWrongWithItsFile)
+{
+    const orvcloud::testing::TemporaryDirectory directory;
+    std::ofstream(directory.path / "cloud.db") << "this is no database, although it is long enough to look like one";
+    EXPECT_THROW(openSqliteStore(directory.path), StoreError);
+    EXPECT_THROW(openSqliteStore(directory.path / "missing"), StoreError);
+}
