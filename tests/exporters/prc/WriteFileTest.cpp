@@ -1,14 +1,13 @@
+#include "exporters/FullDisk.h"
 #include "exporters/prc/PrcReader.h"
 #include "exporters/prc/PrcWriter.h"
 #include "exporters/prc/TestScenes.h"
 
 #include <gmock/gmock.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <sys/resource.h>
 
 namespace
 {
@@ -46,29 +45,6 @@ protected:
     std::filesystem::path folder;
 };
 
-// Files of this process can't grow past a limit while this lives: a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t room) : handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &before);
-        rlimit const limit{room, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
-    }
-    FullDisk(FullDisk const&) = delete;
-    FullDisk& operator=(FullDisk const&) = delete;
-
-private:
-    void (*handler)(int);
-    rlimit before{};
-};
-
 TEST_F(WriteFile, WritesAWholeFileAndNothingElse)
 {
     auto const outcome = writeFile(prctest::assembly(), folder / "Größe – 試験.prc");
@@ -88,7 +64,7 @@ TEST_F(WriteFile, ReplacesAFileOfThatName)
 TEST_F(WriteFile, LeavesNothingOnAFullDisk)
 {
     put("a.prc", "old");
-    FullDisk const disk(200);
+    prctest::FullDisk const disk(200);
     for (char const* name : {"a.prc", "b.prc"}) {
         auto const outcome = writeFile(prctest::assembly(), folder / name);
         EXPECT_EQ(outcome.result, Result::cannotWrite);

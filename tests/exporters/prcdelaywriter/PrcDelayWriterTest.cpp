@@ -1,5 +1,6 @@
 #include "exporters/prcdelaywriter/PrcDelayWriter.h"
 
+#include "exporters/FullDisk.h"
 #include "exporters/prc/PrcReader.h"
 #include "exporters/prcdelaywriter/DocumentMaker.h"
 #include "host/orv/IStatusManager.h"
@@ -9,10 +10,8 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <sys/resource.h>
 
 namespace
 {
@@ -144,14 +143,11 @@ TEST_F(PrcDelayWriterTest, SaysThatItCannotWrite)
 
 TEST_F(PrcDelayWriterTest, LeavesNoPartOfAFileOnAFullDisk)
 {
-    auto const handler = std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit const full{100, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &full);
-    auto const status = save("a.prc");
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
+    Status status = Status::ok;
+    {
+        prctest::FullDisk const disk(100);
+        status = save("a.prc");
+    }
     EXPECT_EQ(status, Status::cannotWrite);
     EXPECT_FALSE(bar.isShown);
     EXPECT_TRUE(isEmptyFolder());
