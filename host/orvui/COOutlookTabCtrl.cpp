@@ -12,12 +12,12 @@ int COOutlookTabCtrl::GetToolbarImageListCount() const
     return CMFCOutlookBarTabCtrl::GetToolbarImageListCount();
 }
 
-void COOutlookTabCtrl::AddImageList(_IMAGELIST* images, int size, unsigned long mask)
+void COOutlookTabCtrl::AddImageList(_IMAGELIST* list, int size, unsigned long mask)
 {
-    CMFCOutlookBarTabCtrl::AddImageList(images, size, static_cast<COLORREF>(mask));
+    CMFCOutlookBarTabCtrl::AddImageList(list, size, static_cast<COLORREF>(mask));
 }
 
-void COOutlookTabCtrl::AddToolbarImageList(_IMAGELIST* images, int size, unsigned long mask)
+void COOutlookTabCtrl::AddToolbarImageList(_IMAGELIST* list, int size, unsigned long mask)
 {
-    CMFCOutlookBarTabCtrl::AddToolbarImageList(images, size, static_cast<COLORREF>(mask));
+    CMFCOutlookBarTabCtrl::AddToolbarImageList(list, size, static_cast<COLORREF>(mask));
 }
