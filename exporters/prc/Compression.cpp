@@ -17,10 +17,10 @@ namespace
 
 constexpr std::size_t chunk = std::size_t{1} << 18;
 
-// zlib counts in 32 bits: larger spans are fed in pieces.
+// zlib counts in 32 bits, and who packs wants to see progress: spans are fed in pieces.
 uInt piece(std::size_t size)
 {
-    return static_cast<uInt>(std::min<std::size_t>(size, 1U << 30));
+    return static_cast<uInt>(std::min<std::size_t>(size, 1U << 20));
 }
 
 struct Inflation {
@@ -49,7 +49,7 @@ struct Deflation {
 
 } // namespace
 
-std::vector<std::uint8_t> compressed(std::span<std::uint8_t const> content)
+std::vector<std::uint8_t> compressed(std::span<std::uint8_t const> content, std::function<bool(double)> const& progress)
 {
     Deflation deflation;
     std::vector<std::uint8_t> result;
@@ -67,6 +67,8 @@ std::vector<std::uint8_t> compressed(std::span<std::uint8_t const> content)
             throw std::runtime_error("a section can't be packed");
         fed += input - deflation.state.avail_in;
         result.resize(filled + chunk - deflation.state.avail_out);
+        if (progress && !progress(static_cast<double>(fed) / static_cast<double>(content.size())))
+            return {};
     }
     return result;
 }

@@ -20,7 +20,9 @@ namespace prc
 namespace
 {
 
-constexpr double encodedPart = 0.6; // of the work; packing and writing are the rest
+// Where the steps of the work end.
+constexpr double encodedPart = 0.2;
+constexpr double packedPart = 0.9;
 
 void add(Bytes& out, std::uint32_t value)
 {
@@ -167,7 +169,10 @@ Bytes encodeSound(Scene const& scene, WriteOptions const& options)
     });
     if (!report(encodedPart))
         return {};
-    sections[2] = compressed(meshes);
+    sections[2] =
+        compressed(meshes, [&](double done) { return report(encodedPart + (packedPart - encodedPart) * done); });
+    if (sections[2].empty())
+        return {};
     sections[3] = compressed(emptySection(Entity::geometry));
     sections[4] = compressed(emptySection(Entity::extraGeometry));
     sections[5] = compressed(modelFileSection(scene, structureId));
@@ -202,7 +207,6 @@ WriteOutcome writeFile(Scene const& scene, std::filesystem::path const& path, Wr
         if (content.empty())
             return cancelled;
         double const all = static_cast<double>(content.size());
-        constexpr double packedPart = 0.9;
         file.write(content, [&](std::size_t done) {
             return !options.progress ||
                    options.progress(packedPart + (1 - packedPart) * static_cast<double>(done) / all);
