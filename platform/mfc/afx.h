@@ -41,7 +41,7 @@ CObject* AfxDynamicDownCast(CRuntimeClass* target, CObject* object); // null whe
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 #define DYNAMIC_DOWNCAST(class_name, object)                                                                           \
-    (static_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
+    (dynamic_cast<class_name*>(AfxDynamicDownCast(RUNTIME_CLASS(class_name), object)))
 
 #define DECLARE_DYNAMIC(class_name)                                                                                    \
 public:                                                                                                                \

@@ -34,4 +34,5 @@ private:
 
     COLORREF face = CLR_DEFAULT;
     COLORREF textColour = CLR_DEFAULT;
+    bool hasPicture = false;
 };

@@ -33,8 +33,7 @@ public:
 protected:
     virtual void OnOK();     // exchanges data and ends with IDOK
     virtual void OnCancel(); // ends with IDCANCEL
-    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-    afx_msg void OnClose(); // the close box cancels
+    afx_msg void OnClose();  // the close box cancels
 
     LPCWSTR m_lpszTemplateName = nullptr; // an id as a pointer, or a name that outlives the dialog
     CWnd* m_pParentWnd = nullptr;

@@ -16,8 +16,8 @@ public:
     ~CMFCOutlookBarTabCtrl() override;
 
     BOOL Create(const RECT& rect, CWnd* parent, UINT id);
-    // A new tab for a window. `image` counts in the picture lists; the style is made of AFX_CBRS_FLOAT, _AUTOHIDE,
-    // _RESIZE and _CLOSE. A detachable control can be floated by the user when the style has AFX_CBRS_FLOAT.
+    // A new tab for a window. `image` counts in the picture lists, -1 for none; the style is made of AFX_CBRS_FLOAT,
+    // _AUTOHIDE, _RESIZE and _CLOSE. A detachable control can be floated by the user when the style has AFX_CBRS_FLOAT.
     void AddControl(CWnd* control, LPCWSTR title, int image = -1, BOOL detachable = TRUE,
                     DWORD style = AFX_CBRS_FLOAT | AFX_CBRS_CLOSE | AFX_CBRS_RESIZE | AFX_CBRS_AUTOHIDE);
     int GetTabsNum() const { return static_cast<int>(tabs.size()); }
@@ -28,9 +28,10 @@ public:
     CWnd* GetActiveWnd() const;
     BOOL SetActiveTab(int index);
 
-    // Pictures for tabs and for the collapsed bar. The list is copied; `size` is its pictures' side in pixels.
-    int GetImageListCount() const { return largeCount; }
-    int GetToolbarImageListCount() const { return smallCount; }
+    // Pictures of tabs at a large and at a small size, of which the bar shows the small one. The lists' pictures are
+    // copied; `size` is their side in pixels, `mask` a colour that is transparent in them.
+    int GetImageListCount() const;
+    int GetToolbarImageListCount() const;
     BOOL AddImageList(_IMAGELIST* list, int size, COLORREF mask);
     BOOL AddToolbarImageList(_IMAGELIST* list, int size, COLORREF mask);
 
@@ -43,12 +44,13 @@ private:
     struct Tab {
         HWND control;
         HWND wrapper;
+        int image;
         DWORD style;
     };
     void activate(int index);
 
     std::vector<Tab> tabs;
     int activeTab = -1;
-    int largeCount = 0;
-    int smallCount = 0;
+    CImageList images;
+    CImageList toolbarImages;
 };

@@ -1,6 +1,8 @@
 #pragma once
 #include "afxdlg.h"
 
+class CPropertySheet;
+
 // One page of a property sheet, made from a dialog template when it is first shown. The template's caption is the
 // page's title unless a string id is given.
 class CPropertyPage : public CDialog
@@ -18,10 +20,15 @@ public:
     virtual BOOL OnQueryCancel();
     void OnOK() override;     // the sheet was accepted; the base does nothing
     void OnCancel() override; // the sheet was cancelled; the base does nothing
-    CString GetCaption() const;
+    virtual CString GetCaption() const;
+    ~CPropertyPage() override; // leaves its sheet
+
+protected:
+    virtual BOOL CreatePage(CWnd* host); // makes the page's window; the base takes the template
 
 private:
     friend class CPropertySheet;
+    CPropertySheet* sheet = nullptr;
     UINT captionId;
     bool modified = false;
 };

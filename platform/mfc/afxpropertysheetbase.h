@@ -1,6 +1,8 @@
 #pragma once
 #include "afxpropertypage.h"
 
+#include <memory>
+#include <string>
 #include <vector>
 
 // A window of pages with the buttons OK, Cancel and Apply. Pages stay their owner's. They can be added before and after
@@ -16,6 +18,7 @@ public:
     ~CPropertySheet() override;
 
     void AddPage(CPropertyPage* page);
+    void AddOwnPage(std::shared_ptr<CPropertyPage> page); // one that lives as long as the sheet
     void RemovePage(CPropertyPage* page);
     int GetPageCount() const;
     CPropertyPage* GetPage(int index) const; // null outside the pages
@@ -39,12 +42,15 @@ protected:
 
 private:
     friend class CPropertyPage;
+    BOOL createWindow(CWnd* owner);
+    void destroyPages();
     BOOL showPage(int index);
     bool apply();
     void cancel();
 
     std::wstring caption;
     CWnd* parentWindow = nullptr;
+    std::vector<std::shared_ptr<CPropertyPage>> ownPages;
     std::vector<CPropertyPage*> pages;
     int active = 0;
     bool modal = false;

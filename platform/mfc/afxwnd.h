@@ -130,6 +130,8 @@ protected:
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
 
 private:
+    friend class CDialog;
+    friend class CPropertySheet;
     friend LRESULT AfxCallWndProc(CWnd* window, HWND handle, UINT message, WPARAM wParam, LPARAM lParam);
     void attachPermanently(HWND window);
 };

@@ -8,8 +8,6 @@
 
 #define WINAPI
 #define CALLBACK
-#define APIENTRY
-#define CONST const
 
 using BOOL = int;
 using BYTE = std::uint8_t;

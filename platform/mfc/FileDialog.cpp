@@ -1,0 +1,93 @@
+#include "afxfiledialog.h"
+
+#include "platform/qt/Native.h"
+#include "platform/testing/ModalExpectation.h"
+
+#include <QFileDialog>
+
+#include <algorithm>
+#include <filesystem>
+
+IMPLEMENT_DYNAMIC(CFileDialog, CDialog)
+
+CFileDialog::CFileDialog(BOOL open, LPCWSTR extension, LPCWSTR fileName, DWORD flags, LPCWSTR filters, CWnd* parent,
+                         DWORD, BOOL)
+    : m_bOpenFileDialog(open), defaultExtension(extension ? extension : L""), filter(filters ? filters : L""),
+      file(MAX_PATH, L'\0')
+{
+    m_pParentWnd = parent;
+    std::replace(filter.begin(), filter.end(), L'|', L'\0');
+    const std::wstring name = std::wstring(fileName ? fileName : L"").substr(0, MAX_PATH - 1);
+    std::copy(name.begin(), name.end(), file.begin());
+    m_ofn.hwndOwner = parent ? parent->m_hWnd : nullptr;
+    m_ofn.lpstrFilter = filter.c_str();
+    m_ofn.lpstrFile = file.data();
+    m_ofn.nMaxFile = static_cast<DWORD>(file.size());
+    m_ofn.Flags = flags;
+    m_ofn.lpstrDefExt = defaultExtension.empty() ? nullptr : defaultExtension.c_str();
+}
+
+namespace
+{
+// The filters as "description (patterns)". A description that names its patterns itself is not given them twice.
+QStringList nameFilters(const std::wstring& pairs)
+{
+    QStringList parts = QString::fromStdWString(pairs).split(QChar(u'\0'), Qt::SkipEmptyParts);
+    QStringList result;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString description = parts[i];
+        if (const qsizetype bracket = description.lastIndexOf(u'('); bracket > 0)
+            description.truncate(bracket);
+        result << QStringLiteral("%1 (%2)").arg(description.trimmed(), parts[i + 1].replace(u';', u' '));
+    }
+    return result;
+}
+} // namespace
+
+INT_PTR CFileDialog::DoModal()
+{
+    using orvplatform::testing::ModalScript;
+    if (ModalScript::isRunning())
+        return ModalScript::play(*this);
+    CWnd* parent = m_pParentWnd ? m_pParentWnd : CWnd::FromHandle(GetActiveWindow());
+    QFileDialog dialog(parent ? orvplatform::widgetOf(parent->m_hWnd) : nullptr);
+    dialog.setAcceptMode(m_bOpenFileDialog ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    dialog.setFileMode(m_bOpenFileDialog ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite, !(m_ofn.Flags & OFN_OVERWRITEPROMPT));
+    if (m_ofn.lpstrTitle)
+        dialog.setWindowTitle(QString::fromWCharArray(m_ofn.lpstrTitle));
+    if (m_ofn.lpstrInitialDir)
+        dialog.setDirectory(QString::fromWCharArray(m_ofn.lpstrInitialDir));
+    const QStringList filters = nameFilters(filter);
+    if (!filters.isEmpty())
+        dialog.setNameFilters(filters);
+    if (m_ofn.lpstrDefExt)
+        dialog.setDefaultSuffix(QString::fromWCharArray(m_ofn.lpstrDefExt).trimmed());
+    if (m_ofn.lpstrFile && *m_ofn.lpstrFile)
+        dialog.selectFile(QString::fromWCharArray(m_ofn.lpstrFile));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return IDCANCEL;
+    orvplatform::testing::choosePath(*this, dialog.selectedFiles().first().toStdWString());
+    return IDOK;
+}
+
+CString CFileDialog::GetPathName() const
+{
+    return m_ofn.lpstrFile ? m_ofn.lpstrFile : L"";
+}
+
+CString CFileDialog::GetFileName() const
+{
+    return std::filesystem::path(GetPathName().GetString()).filename().wstring();
+}
+
+CString CFileDialog::GetFileTitle() const
+{
+    return std::filesystem::path(GetPathName().GetString()).stem().wstring();
+}
+
+CString CFileDialog::GetFileExt() const
+{
+    const std::wstring extension = std::filesystem::path(GetPathName().GetString()).extension().wstring();
+    return extension.empty() ? extension : extension.substr(1);
+}

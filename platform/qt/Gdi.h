@@ -1,0 +1,53 @@
+#pragma once
+// What the handles of fonts, pictures, device contexts and image lists point to.
+
+#include "commctrl.h"
+#include "wingdi.h"
+
+#include <QByteArray>
+#include <QFont>
+#include <QImage>
+
+#include <vector>
+
+struct HFONT__ {
+    QFont font;
+    bool shared = false; // the system's own: DeleteObject leaves it
+};
+struct HBITMAP__ {
+    QImage image;
+};
+struct HICON__ {
+    QImage image;
+};
+struct HDC__ {
+    HFONT font;
+};
+struct _IMAGELIST {
+    QSize size;
+    std::vector<QImage> pictures;
+};
+
+namespace orvplatform
+{
+// The font that stands in for a dialog template's. "MS Shell Dlg" becomes the system's own font unless that is too tall
+// for the rows that templates are laid out in.
+QFont dialogFont(const QString& face = QStringLiteral("MS Shell Dlg"), int points = 8, bool bold = false,
+                 bool italic = false);
+HFONT sharedFont(const QFont& font);
+// Base units of a font, after the documented rule: mean width of the 52 letters, and height.
+SIZE baseUnits(const QFont& font);
+void applyFont(HWND window, HFONT font);
+
+HBITMAP makeBitmap(QImage image);
+HICON makeIcon(QImage image);
+QImage imageOf(HBITMAP bitmap); // empty for a bad handle
+QImage imageOf(HICON icon);
+
+// Decodes any format that the system knows. Empty when it is no picture, a side is over 16384 pixels, or it needs more
+// than 64 MiB.
+QImage decodePicture(const QByteArray& bytes);
+
+// Cuts a row of pictures of one size; an image that is no such row is one picture. `mask` becomes transparent.
+std::vector<QImage> cutPictures(const QImage& image, QSize size, COLORREF mask = CLR_NONE);
+} // namespace orvplatform

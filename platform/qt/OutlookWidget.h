@@ -1,0 +1,33 @@
+#pragma once
+// The drawing side of the side bar: tabs over a stack of panes that can float and fold away.
+
+#include "winuser.h"
+
+#include <functional>
+#include <string>
+
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QIcon;
+class QWidget;
+QT_END_NAMESPACE
+
+namespace orvplatform
+{
+inline constexpr const wchar_t* outlookBarClass = L"OrvOutlookBar";
+inline constexpr const wchar_t* outlookTabsClass = L"OrvOutlookTabs";
+HWND makeOutlookBar(const CREATESTRUCTW& create, QWidget* parent);
+HWND makeOutlookTabs(const CREATESTRUCTW& create, QWidget* parent);
+
+// Puts a control into a frame of its own behind a new tab. Returns the frame, whose text is the tab's title.
+HWND addPane(HWND tabs, HWND control, const std::wstring& title, const QIcon& icon, bool canFloat, bool canFold,
+             bool canResize);
+void setPaneIcon(HWND tabs, int index, const QIcon& icon);
+void showPane(HWND tabs, int index);
+void onPaneChosen(HWND tabs, std::function<void(int index)> chosen);
+void floatPane(HWND tabs, int index, bool floating);
+bool isPaneFloating(HWND tabs, int index);
+void foldPanes(HWND tabs, bool fold); // to a strip of icons, and back
+bool arePanesFolded(HWND tabs);
+} // namespace orvplatform

@@ -1,0 +1,49 @@
+#pragma once
+// The drawing side of the ribbon: tabs over one row of titled panels. Where the row is too long, panels from the last
+// on show their small pictures.
+
+#include "winuser.h"
+
+#include <QIcon>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+QT_BEGIN_NAMESPACE
+class QMenu;
+class QWidget;
+QT_END_NAMESPACE
+
+namespace orvplatform
+{
+struct RibbonHooks;
+
+inline constexpr const wchar_t* ribbonClass = L"OrvRibbon";
+HWND makeRibbon(const CREATESTRUCTW& create, QWidget* parent);
+
+struct RibbonButton {
+    UINT id;
+    QString text;
+    QString toolTip;
+    QIcon large;
+    QIcon small;
+};
+struct RibbonPanel {
+    QString name;
+    std::vector<RibbonButton> buttons;
+};
+struct RibbonPage {
+    QString name;
+    std::vector<RibbonPanel> panels;
+};
+
+// What the ribbon shows; asked for when the ribbon is drawn after a change.
+using RibbonSource = std::function<std::vector<RibbonPage>()>;
+void setRibbonSource(HWND ribbon, RibbonSource source, std::function<void(int page)> onPage);
+void ribbonChanged(HWND ribbon);
+void showRibbonPage(HWND ribbon, int page);
+void setRibbonHooks(HWND ribbon, RibbonHooks hooks);
+void updateRibbon(HWND ribbon);              // enabled and checked states, after outstanding changes
+QWidget* ribbonButton(HWND ribbon, UINT id); // null when it is not shown
+} // namespace orvplatform

@@ -1,0 +1,102 @@
+#include "platform/qt/StaticControl.h"
+
+#include "platform/qt/Gdi.h"
+#include "platform/qt/Window.h"
+
+#include <QtWidgets>
+
+#include <utility>
+
+namespace orvplatform
+{
+namespace
+{
+bool isPicture(DWORD style)
+{
+    const DWORD type = style & SS_TYPEMASK;
+    return type == SS_BITMAP || type == SS_ICON;
+}
+
+// A label, or a picture that fills the control whatever its own size.
+class Label final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    QImage picture;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        QLabel::paintEvent(event);
+        if (picture.isNull())
+            return;
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(contentsRect(), picture);
+    }
+};
+
+class StaticBehaviour final : public Behaviour
+{
+public:
+    ~StaticBehaviour() override
+    {
+        DeleteObject(bitmap);
+        DestroyIcon(icon);
+    }
+    void setText(HWND window, const QString& text) override
+    {
+        if (!isPicture(window->style))
+            static_cast<Label*>(window->widget)->setText(QString(text).remove(QLatin1Char('\r')));
+    }
+    bool message(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override
+    {
+        auto* label = static_cast<Label*>(window->widget);
+        if (message == STM_SETIMAGE && wParam == IMAGE_BITMAP) {
+            result = reinterpret_cast<LRESULT>(std::exchange(bitmap, reinterpret_cast<HBITMAP>(lParam)));
+            label->picture = imageOf(bitmap);
+            label->update();
+            return true;
+        }
+        if (message == STM_GETIMAGE) {
+            result = wParam == IMAGE_ICON ? reinterpret_cast<LRESULT>(icon) : reinterpret_cast<LRESULT>(bitmap);
+            return true;
+        }
+        if (message == STM_SETICON || (message == STM_SETIMAGE && wParam == IMAGE_ICON)) {
+            const LPARAM handle = message == STM_SETICON ? static_cast<LPARAM>(wParam) : lParam;
+            result = reinterpret_cast<LRESULT>(std::exchange(icon, reinterpret_cast<HICON>(handle)));
+            label->picture = imageOf(icon);
+            label->update();
+            return true;
+        }
+        if (message == WM_LBUTTONUP && (window->style & SS_NOTIFY)) {
+            sendCommand(window, STN_CLICKED);
+            return true;
+        }
+        return false;
+    }
+
+private:
+    HBITMAP bitmap = nullptr;
+    HICON icon = nullptr;
+};
+} // namespace
+
+HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent)
+{
+    const auto style = static_cast<DWORD>(create.style);
+    auto* label = new Label(parent);
+    label->setTextFormat(Qt::PlainText);
+    const DWORD type = style & SS_TYPEMASK;
+    label->setWordWrap(type == SS_LEFT || type == SS_CENTER || type == SS_RIGHT);
+    label->setAlignment((type == SS_CENTER  ? Qt::AlignHCenter
+                         : type == SS_RIGHT ? Qt::AlignRight
+                                            : Qt::AlignLeft) |
+                        (style & SS_CENTERIMAGE ? Qt::AlignVCenter : Qt::AlignTop));
+    if (style & SS_SUNKEN)
+        label->setFrameStyle(QFrame::StyledPanel);
+    // Clicks on a label go to the window behind it unless it asks for them.
+    label->setAttribute(Qt::WA_TransparentForMouseEvents, !(style & SS_NOTIFY));
+    return attachHandle(label, L"Static", std::make_unique<StaticBehaviour>());
+}
+} // namespace orvplatform

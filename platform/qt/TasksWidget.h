@@ -1,0 +1,28 @@
+#pragma once
+// The drawing side of the task pane: a caption strip and, below it, groups as cards in a scrolled column.
+
+#include "winuser.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QtGlobal>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+struct CMFCTasksPaneTaskGroup;
+
+namespace orvplatform
+{
+inline constexpr const wchar_t* tasksPaneClass = L"OrvTasksPane";
+HWND makeTasksPane(const CREATESTRUCTW& create, QWidget* parent);
+
+using TaskGroups = std::vector<std::unique_ptr<CMFCTasksPaneTaskGroup>>;
+// The list that the pane shows from now on. It belongs to the pane's object; null when that goes.
+void setTaskGroups(HWND pane, const TaskGroups* groups, bool collapsible);
+// Places the groups and their windows anew, and writes their rectangles into them.
+void layoutTasks(HWND pane);
+} // namespace orvplatform

@@ -1,0 +1,370 @@
+#include "platform/qt/Window.h"
+
+#include "platform/Process.h"
+#include "platform/qt/Controls.h"
+#include "platform/qt/Gdi.h"
+#include "platform/qt/Keyboard.h"
+#include "platform/qt/Native.h"
+
+#include <QHash>
+#include <QtWidgets>
+
+#include <utility>
+
+namespace orvplatform
+{
+namespace
+{
+QHash<const QWidget*, HWND>& handles()
+{
+    static QHash<const QWidget*, HWND> map;
+    return map;
+}
+QSet<HWND>& liveWindows()
+{
+    static QSet<HWND> set;
+    return set;
+}
+bool defaultReached = false;
+
+// WM_DESTROY goes from the window down to its descendants, WM_NCDESTROY comes back up.
+void endTree(HWND window)
+{
+    if (window->ending)
+        return;
+    window->ending = true;
+    deliver(window, WM_DESTROY, 0, 0);
+    if (window->widget) {
+        for (QWidget* child : window->widget->findChildren<QWidget*>())
+            if (HWND handle = existingHandle(child))
+                endTree(handle);
+    }
+    deliver(window, WM_NCDESTROY, 0, 0);
+    window->procedure = nullptr;
+    handles().remove(window->widget);
+    liveWindows().remove(window);
+    for (const auto& function : window->whenGone)
+        function();
+}
+} // namespace
+
+QString toQString(const wchar_t* text)
+{
+    return text ? QString::fromWCharArray(text) : QString();
+}
+
+void Behaviour::setText(HWND window, const QString& text)
+{
+    window->widget->setWindowTitle(text);
+}
+QString Behaviour::text(HWND window)
+{
+    return window->text;
+}
+bool Behaviour::message(HWND, UINT, WPARAM, LPARAM, LRESULT&)
+{
+    return false;
+}
+
+bool isLive(HWND window)
+{
+    return window && liveWindows().contains(window);
+}
+
+HWND existingHandle(const QWidget* widget)
+{
+    return handles().value(widget, nullptr);
+}
+
+HWND nearestHandle(QWidget* widget)
+{
+    for (; widget; widget = widget->parentWidget())
+        if (HWND window = existingHandle(widget))
+            return window;
+    return nullptr;
+}
+
+HWND nearestDialog(HWND window)
+{
+    while (isLive(window) && !window->isDialog)
+        window = GetParent(window);
+    return window;
+}
+
+HWND attachHandle(QWidget* widget, const std::wstring& className, std::unique_ptr<Behaviour> behaviour)
+{
+    auto* window = new HWND__(widget, className);
+    window->behaviour = behaviour ? std::move(behaviour) : std::make_unique<Behaviour>();
+    return window;
+}
+
+ControlKind controlKind(HWND window)
+{
+    const struct {
+        const wchar_t* name;
+        ControlKind kind;
+    } kinds[] = {{L"Button", ControlKind::Button},
+                 {L"Edit", ControlKind::Edit},
+                 {L"Static", ControlKind::Static},
+                 {L"SysLink", ControlKind::Links}};
+    for (const auto& each : kinds)
+        if (isLive(window) && window->className == each.name)
+            return each.kind;
+    return ControlKind::Other;
+}
+
+void whenGone(HWND window, std::function<void()> function)
+{
+    if (isLive(window))
+        window->whenGone.push_back(std::move(function));
+}
+
+LRESULT deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool* defaulted)
+{
+    const bool outer = std::exchange(defaultReached, false);
+    LRESULT result = 0;
+    guarded([&] { result = SendMessageW(window, message, wParam, lParam); });
+    if (defaulted)
+        *defaulted = defaultReached;
+    defaultReached = outer;
+    return result;
+}
+
+void reportSize(HWND window)
+{
+    if (!isLive(window) || window->reportedSize == window->widget->size())
+        return;
+    const QSize size = window->widget->size();
+    window->reportedSize = size;
+    deliver(window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(size.width(), size.height()));
+}
+
+void sendCommand(HWND control, UINT code)
+{
+    deliver(GetParent(control), WM_COMMAND, MAKEWPARAM(control->id, static_cast<int>(code)),
+            reinterpret_cast<LPARAM>(control));
+}
+} // namespace orvplatform
+
+using orvplatform::isLive;
+
+HWND__::HWND__(QWidget* shown, std::wstring name)
+    : QObject(shown), widget(shown), childHost(shown), className(std::move(name)), reportedSize(-1, -1)
+{
+    orvplatform::handles().insert(shown, this);
+    orvplatform::liveWindows().insert(this);
+    shown->installEventFilter(this);
+}
+
+HWND__::~HWND__()
+{
+    orvplatform::endTree(this);
+}
+
+bool HWND__::eventFilter(QObject* watched, QEvent* event)
+{
+    return watched == widget && !foreign && !ending && translate(event);
+}
+
+bool HWND__::translate(QEvent* event)
+{
+    bool defaulted = true;
+    const auto mouse = [&](UINT message) {
+        const auto* e = static_cast<QMouseEvent*>(event);
+        const WPARAM keys = (e->buttons() & Qt::LeftButton ? MK_LBUTTON : 0) |
+                            (e->buttons() & Qt::RightButton ? MK_RBUTTON : 0) |
+                            (e->modifiers() & Qt::ShiftModifier ? MK_SHIFT : 0) |
+                            (e->modifiers() & Qt::ControlModifier ? MK_CONTROL : 0);
+        const QPoint at = e->position().toPoint();
+        orvplatform::deliver(this, message, keys, MAKELPARAM(at.x(), at.y()), &defaulted);
+    };
+    const auto button = [&](UINT left, UINT right) {
+        const auto* e = static_cast<QMouseEvent*>(event);
+        if (e->button() == Qt::LeftButton)
+            mouse(left);
+        else if (e->button() == Qt::RightButton)
+            mouse(right);
+    };
+    switch (event->type()) {
+    case QEvent::Resize:
+        orvplatform::reportSize(this);
+        break;
+    case QEvent::MouseButtonPress:
+        button(WM_LBUTTONDOWN, WM_RBUTTONDOWN);
+        break;
+    case QEvent::MouseButtonRelease:
+        button(WM_LBUTTONUP, WM_RBUTTONUP);
+        break;
+    case QEvent::MouseButtonDblClick:
+        button(WM_LBUTTONDBLCLK, WM_RBUTTONDOWN);
+        break;
+    case QEvent::MouseMove:
+        mouse(WM_MOUSEMOVE);
+        break;
+    case QEvent::KeyPress: {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (orvplatform::navigate(this, key))
+            return true;
+        if (const int code = orvplatform::virtualKey(key->key()))
+            orvplatform::deliver(this, WM_KEYDOWN, static_cast<WPARAM>(code), 0, &defaulted);
+        break;
+    }
+    case QEvent::FocusIn:
+        orvplatform::deliver(this, WM_SETFOCUS, 0, 0);
+        break;
+    case QEvent::FocusOut:
+        orvplatform::deliver(this, WM_KILLFOCUS, 0, 0);
+        break;
+    case QEvent::ShowToParent:
+        orvplatform::reportSize(this);
+        orvplatform::deliver(this, WM_SHOWWINDOW, TRUE, 0);
+        break;
+    case QEvent::HideToParent:
+        orvplatform::deliver(this, WM_SHOWWINDOW, FALSE, 0);
+        break;
+    case QEvent::EnabledChange:
+        orvplatform::deliver(this, WM_ENABLE, widget->isEnabled(), 0);
+        break;
+    case QEvent::Close:
+        // The window's own handling decides; nothing closes by itself.
+        event->ignore();
+        orvplatform::deliver(this, WM_CLOSE, 0, 0);
+        return true;
+    default:
+        return false;
+    }
+    return !defaulted;
+}
+
+HWND orvplatform::createWindow(const CREATESTRUCTW& create, const std::function<void(HWND)>& attach)
+{
+    HWND parent = isLive(create.hwndParent) ? create.hwndParent : nullptr;
+    if ((create.style & static_cast<LONG>(WS_CHILD)) && !parent)
+        return nullptr;
+    HWND window = makeControl(create, parent);
+    window->style = static_cast<DWORD>(create.style);
+    window->exStyle = create.dwExStyle;
+    window->id = static_cast<int>(reinterpret_cast<LONG_PTR>(create.hMenu));
+    window->widget->setGeometry(create.x, create.y, create.cx, create.cy);
+    window->widget->setEnabled(!(window->style & WS_DISABLED));
+    if (attach)
+        attach(window);
+    SetWindowTextW(window, create.lpszName ? create.lpszName : L"");
+    LRESULT answer = 0;
+    try {
+        answer = SendMessageW(window, WM_CREATE, 0, reinterpret_cast<LPARAM>(&create));
+    } catch (...) {
+        ::DestroyWindow(window);
+        throw;
+    }
+    if (answer == -1) {
+        ::DestroyWindow(window);
+        return nullptr;
+    }
+    reportSize(window);
+    if (isLive(window) && (window->style & WS_VISIBLE))
+        window->widget->show();
+    return isLive(window) ? window : nullptr;
+}
+
+HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style, int x, int y, int width, int height,
+                     HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter)
+{
+    const CREATESTRUCTW create{parameter, instance,  menu,   parent, height, width, x, y, static_cast<LONG>(style),
+                               name,      className, exStyle};
+    return orvplatform::createWindow(create, {});
+}
+
+BOOL DestroyWindow(HWND window)
+{
+    if (!isLive(window) || window->ending)
+        return FALSE;
+    QWidget* widget = window->widget;
+    widget->hide();
+    orvplatform::endTree(window);
+    // The widget may be in the middle of an event of its own, so it goes when the event loop is next free.
+    widget->setParent(nullptr);
+    widget->deleteLater();
+    return TRUE;
+}
+
+BOOL IsWindow(HWND window)
+{
+    return isLive(window);
+}
+
+LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!isLive(window))
+        return 0;
+    return (window->procedure ? window->procedure : DefWindowProcW)(window, message, wParam, lParam);
+}
+
+BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!isLive(window))
+        return FALSE;
+    QMetaObject::invokeMethod(
+        window, [=] { orvplatform::deliver(window, message, wParam, lParam); }, Qt::QueuedConnection);
+    return TRUE;
+}
+
+UINT RegisterWindowMessageW(LPCWSTR name)
+{
+    static QHash<QString, UINT> numbers;
+    const QString key = orvplatform::toQString(name).toLower();
+    if (key.isEmpty())
+        return 0;
+    const auto known = numbers.constFind(key);
+    return known != numbers.constEnd() ? *known : *numbers.insert(key, 0xC000u + static_cast<UINT>(numbers.size()));
+}
+
+LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    orvplatform::defaultReached = true;
+    if (!isLive(window))
+        return 0;
+    LRESULT result = 0;
+    if (!window->ending && window->behaviour->message(window, message, wParam, lParam, result))
+        return result;
+    switch (message) {
+    case WM_CLOSE:
+        ::DestroyWindow(window);
+        return 0;
+    case WM_SETTEXT:
+        window->text = orvplatform::toQString(reinterpret_cast<LPCWSTR>(lParam));
+        window->behaviour->setText(window, window->text);
+        return TRUE;
+    case WM_GETTEXTLENGTH:
+        return static_cast<LRESULT>(window->behaviour->text(window).toStdWString().size());
+    case WM_GETTEXT: {
+        const std::wstring text = window->behaviour->text(window).toStdWString();
+        const std::size_t room = wParam;
+        if (room == 0 || !lParam)
+            return 0;
+        const std::size_t count = std::min(room - 1, text.size());
+        auto* buffer = reinterpret_cast<LPWSTR>(lParam);
+        std::copy_n(text.begin(), count, buffer);
+        buffer[count] = L'\0';
+        return static_cast<LRESULT>(count);
+    }
+    case WM_SETFONT:
+        orvplatform::applyFont(window, reinterpret_cast<HFONT>(wParam));
+        return 0;
+    case WM_GETFONT:
+        return reinterpret_cast<LRESULT>(window->font);
+    case WM_SETICON: {
+        HICON earlier = std::exchange(window->icons[wParam == ICON_BIG], reinterpret_cast<HICON>(lParam));
+        QIcon icon;
+        for (HICON each : window->icons)
+            if (each)
+                icon.addPixmap(orvplatform::pixmapOf(each));
+        window->widget->setWindowIcon(icon);
+        return reinterpret_cast<LRESULT>(earlier);
+    }
+    case WM_GETICON:
+        return reinterpret_cast<LRESULT>(window->icons[wParam == ICON_BIG]);
+    default:
+        return 0;
+    }
+}
