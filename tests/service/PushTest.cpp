@@ -1,6 +1,7 @@
 #include "host/orv/FileUtils.h"
 #include "host/orv/Preferences.h"
 #include "host/orvexp/IDelayExporter.h"
+#include "platform/testing/Input.h"
 #include "platform/text/Text.h"
 #include "service/CloudHelper.h"
 #include "service/CloudSettings.h"
@@ -64,6 +65,8 @@ public:
 class Push : public testing::Test
 {
 protected:
+    static void SetUpTestSuite() { orvplatform::testing::ensureApplication(); }
+
     Push()
     {
         user->userid = L"0f8fad5b-d9cb-469f-a165-70867728950e";
