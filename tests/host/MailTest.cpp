@@ -75,8 +75,8 @@ TEST_F(Mail, GoesToTheClientWordForWord)
 TEST_F(Mail, MayCarryAFile)
 {
     installClient();
-    EXPECT_TRUE(orv::Mail().send(nullptr, L"a@b.example", L"s", L"b", L"/tmp/log file.txt"));
-    EXPECT_EQ(sent(), "[--utf8][--subject][s][--body][b][--attach][/tmp/log file.txt][a@b.example]");
+    EXPECT_TRUE(orv::Mail().send(nullptr, L"a@b.example", L"s", L"b", L"/logs/run 1.txt"));
+    EXPECT_EQ(sent(), "[--utf8][--subject][s][--body][b][--attach][/logs/run 1.txt][a@b.example]");
 }
 
 TEST_F(Mail, IsNotSentWithoutAnAddressOrATool)
