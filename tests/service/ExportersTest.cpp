@@ -80,16 +80,16 @@ TEST_F(Exporters, ThatAreAllMissingLeaveTheManagerEmpty)
 {
     auto const manager = loadFrom("nothing here");
     EXPECT_THAT(manager->plugins(), IsEmpty());
-    EXPECT_FALSE(manager->getPlugin(L"/tmp/part.orvanta"));
+    EXPECT_FALSE(manager->getPlugin(L"/models/part.orvanta"));
 }
 
 TEST_F(Exporters, AreLoadedInTheirOrder)
 {
     auto const manager = loadFrom("good");
     EXPECT_THAT(namesOf(*manager), ElementsAre(L"native", L"stl"));
-    ASSERT_TRUE(manager->getPlugin(L"/tmp/part.orvanta"));
-    EXPECT_STREQ(manager->getPlugin(L"/tmp/part.orvanta")->getName(), L"native");
-    EXPECT_FALSE(manager->getPlugin(L"/tmp/part.unknown"));
+    ASSERT_TRUE(manager->getPlugin(L"/models/part.orvanta"));
+    EXPECT_STREQ(manager->getPlugin(L"/models/part.orvanta")->getName(), L"native");
+    EXPECT_FALSE(manager->getPlugin(L"/models/part.unknown"));
 }
 
 TEST_F(Exporters, ThatAreUnusableAreSkippedAndTheNextIsTried)
