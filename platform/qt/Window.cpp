@@ -247,6 +247,9 @@ HWND orvplatform::createWindow(const CREATESTRUCTW& create, const std::function<
     window->id = static_cast<int>(reinterpret_cast<LONG_PTR>(create.hMenu));
     window->widget->setGeometry(create.x, create.y, create.cx, create.cy);
     window->widget->setEnabled(!(window->style & WS_DISABLED));
+    // Without a word of its own a child would come into view together with its parent.
+    if (!(window->style & WS_VISIBLE))
+        window->widget->hide();
     if (attach)
         attach(window);
     SetWindowTextW(window, create.lpszName ? create.lpszName : L"");
