@@ -4,17 +4,19 @@
 
 #include <new>
 
+#define PLUGIN_EXPORT __attribute__((visibility("default")))
+
 extern "C" {
 
 /// Stores a new plug-in, or null where there is no memory for one. Always 0.
-int createPlugin(orv::IPlugin** plugin)
+PLUGIN_EXPORT int createPlugin(orv::IPlugin** plugin)
 {
     *plugin = new (std::nothrow) cloudplugin;
     return 0;
 }
 
 /// Deletes the plug-in and stores null. A null plug-in is left alone. Always 0.
-int destroyPlugin(orv::IPlugin** plugin)
+PLUGIN_EXPORT int destroyPlugin(orv::IPlugin** plugin)
 {
     if (*plugin != nullptr) {
         delete *plugin;
