@@ -1,0 +1,190 @@
+#include "shell/LoadedPlugin.h"
+
+using namespace orvtest;
+using namespace orvplatform::testing;
+namespace codes = orv::HintCode;
+
+namespace
+{
+
+constexpr unsigned int share = 102;
+constexpr unsigned int push = 118;
+constexpr unsigned int feeds = 201;
+
+class CommandsTest : public UiTest
+{
+protected:
+    void openModel() { sendHint(*plugin.operator->(), codes::documentOpened, scene.document); }
+    void command(unsigned int number) { plugin->OnCommand(nullptr, number, application); }
+    bool isEnabled(unsigned int number)
+    {
+        bool enabled = number != push && number != feeds; // the opposite of what most cases expect
+        plugin->OnUpdateCommand(nullptr, number, &enabled);
+        return enabled;
+    }
+    /// The next modal dialog has this title.
+    void expectDialog(std::wstring const& title, INT_PTR result = IDCANCEL)
+    {
+        modals.expectModal<CDialog>([title, result](CDialog& dialog) {
+            CString shown;
+            dialog.GetWindowTextW(shown);
+            EXPECT_EQ(shown.GetString(), title);
+            return result;
+        });
+    }
+
+    LoadedPlugin plugin;
+};
+
+} // namespace
+
+TEST_F(CommandsTest, WithoutADocumentCommandsDoNothing)
+{
+    long const held = application.use_count();
+    orvplatform::setConnectedForTest(false);
+    command(push);
+    command(share);
+    EXPECT_TRUE(application->texts.empty());
+    EXPECT_EQ(application.use_count(), held); // not stored
+}
+
+TEST_F(CommandsTest, TheApplicationOfACommandIsKept)
+{
+    openModel();
+    long const held = application.use_count();
+    command(999);
+    EXPECT_EQ(application.use_count(), held + 1);
+}
+
+TEST_F(CommandsTest, WithoutAConnectionEveryCommandOnlySaysSo)
+{
+    signIn();
+    openModel();
+    orvplatform::setConnectedForTest(false);
+    for (unsigned int const number : {share, push, 999U}) {
+        application->texts.clear();
+        command(number);
+        EXPECT_EQ(application->texts, std::vector<std::wstring>{text(111)});
+        EXPECT_EQ(application->lastKind, 0);
+    }
+}
+
+TEST_F(CommandsTest, SignedInAPushSendsTheModel)
+{
+    signIn();
+    openModel();
+    network.expect("/api/UploadInput/", jobIdBytes);
+    command(push);
+    EXPECT_EQ(network.last().field("username"), "ann@example.com");
+    EXPECT_EQ(network.last().header("Authorization"), std::string("Bearer ") + tokenBytes);
+    EXPECT_EQ(network.last().field("filename"), "gearbox.step");
+}
+
+TEST_F(CommandsTest, APushGoesByTheSessionFileOfThatMoment)
+{
+    openModel();
+    SessionFile().write(L"bob@example.com", token);
+    network.expect("/api/UploadInput/", jobIdBytes);
+    command(push);
+    EXPECT_EQ(network.last().field("username"), "bob@example.com");
+}
+
+TEST_F(CommandsTest, AnEmptySessionFilePushesWithEmptyNames)
+{
+    signIn();
+    openModel();
+    SessionFile().createEmpty();
+    network.expect("/api/UploadInput/", jobIdBytes);
+    command(push);
+    EXPECT_EQ(network.last().field("username"), "");
+    EXPECT_TRUE(isEnabled(share));
+}
+
+TEST_F(CommandsTest, SignedOutAPushOpensTheLogin)
+{
+    openModel();
+    expectDialog(L"Login to Orvanta Cloud");
+    command(push);
+}
+
+TEST_F(CommandsTest, ShareOpensItsDialog)
+{
+    signIn();
+    openModel();
+    expectDialog(L"Share gearbox.step");
+    command(share);
+}
+
+TEST_F(CommandsTest, DialogsLeaveTheViewersResourcesInPlace)
+{
+    openModel();
+    auto const before = reinterpret_cast<HINSTANCE>(this);
+    AfxSetResourceHandle(before);
+    expectDialog(L"Login to Orvanta Cloud");
+    command(push);
+    EXPECT_EQ(AfxGetResourceHandle(), before);
+}
+
+TEST_F(CommandsTest, OtherCommandsAreIgnored)
+{
+    signIn();
+    openModel();
+    command(feeds);
+    command(0);
+    EXPECT_TRUE(application->texts.empty());
+}
+
+TEST_F(CommandsTest, CommandsAreEnabledByDocumentAndSession)
+{
+    EXPECT_TRUE(isEnabled(push));
+    EXPECT_FALSE(isEnabled(share));
+    EXPECT_TRUE(isEnabled(feeds));
+    signIn();
+    EXPECT_TRUE(isEnabled(push));
+    EXPECT_TRUE(isEnabled(share)); // and does nothing when pressed
+    openModel();
+    EXPECT_TRUE(isEnabled(push));
+    EXPECT_TRUE(isEnabled(share));
+    SessionFile().remove();
+    EXPECT_TRUE(isEnabled(push));
+    EXPECT_FALSE(isEnabled(share));
+    EXPECT_TRUE(isEnabled(feeds));
+}
+
+TEST_F(CommandsTest, ADocumentWithoutAFileDisablesBoth)
+{
+    signIn();
+    scene.info->setFile(L"");
+    openModel();
+    EXPECT_FALSE(isEnabled(push));
+    EXPECT_FALSE(isEnabled(share));
+    EXPECT_TRUE(isEnabled(feeds));
+}
+
+TEST_F(CommandsTest, ADocumentThatStaysHereDisablesBoth)
+{
+    signIn();
+    scene.info->pushState = orvsg::SCInfo::notPushable;
+    openModel();
+    EXPECT_FALSE(isEnabled(push));
+    EXPECT_FALSE(isEnabled(share));
+    EXPECT_TRUE(isEnabled(feeds));
+    scene.info->pushState = 2;
+    EXPECT_TRUE(isEnabled(push));
+}
+
+TEST_F(CommandsTest, ADocumentWithoutItsRecordEnablesThePush)
+{
+    openModel();
+    scene.document->setSchema(orvsg::SCInfo::key, nullptr);
+    EXPECT_TRUE(isEnabled(push));
+    EXPECT_FALSE(isEnabled(share));
+}
+
+TEST_F(CommandsTest, AnyOtherCommandFollowsTheDocument)
+{
+    EXPECT_TRUE(isEnabled(999));
+    scene.info->setFile(L"");
+    openModel();
+    EXPECT_FALSE(isEnabled(999));
+}

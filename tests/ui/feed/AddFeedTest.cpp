@@ -1,0 +1,205 @@
+#include "ui/feed/AddFeed.h"
+#include "feed/FeedReader.h"
+#include "host/orv/FileUtils.h"
+#include "ui/UiTest.h"
+
+#include <json/json.h>
+
+using namespace orvtest;
+using namespace orvplatform::testing;
+namespace codes = orv::HintCode;
+
+namespace
+{
+
+constexpr int box = 2005;
+constexpr int submitButton = 2006;
+
+class AddFeedTest : public UiTest
+{
+protected:
+    AddFeedTest()
+    {
+        signIn();
+        form = new AddFeed;
+        EXPECT_TRUE(form->Create(AddFeed::templateId(), &frame));
+        form->ShowWindow(SW_SHOW);
+        frame.ShowWindow(SW_SHOW);
+        form->setUser(user);
+        sendHint(*form, codes::documentOpened, scene.document);
+    }
+
+    void submit(std::wstring const& text)
+    {
+        if (!text.empty()) {
+            ASSERT_TRUE(typeText(*form, box, text));
+        }
+        ASSERT_TRUE(clickButton(*form, submitButton));
+    }
+
+    AddFeed* form = nullptr; // goes with its window
+};
+
+} // namespace
+
+TEST_F(AddFeedTest, ACommentOnAModelThatTheServiceHasIsSent)
+{
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"Check the clearance");
+    ASSERT_EQ(network.sent().size(), 2U);
+    EXPECT_EQ(network.sent()[0].field("filename"), "gearbox.step");
+    auto const& sent = network.last();
+    EXPECT_EQ(sent.field("jobid"), jobIdBytes);
+    EXPECT_EQ(sent.field("filename"), "gearbox.step");
+    EXPECT_EQ(sent.field("commentid").size(), 36U);
+    Json::Value record;
+    ASSERT_TRUE(Json::Reader().parse(sent.field("comment"), record));
+    EXPECT_EQ(record["commentcontent"]["content"].asString(), "Check the clearance");
+    EXPECT_EQ(record["commentcontent"]["id"].asString(), sent.field("commentid"));
+    EXPECT_EQ(record["file"]["id"].asString(), jobIdBytes);
+    EXPECT_EQ(record["author"]["email"].asString(), "ann@example.com");
+    EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::commentAdded});
+    EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"");
+    EXPECT_EQ(application->texts, std::vector<std::wstring>{L"Comment added successfully."});
+}
+
+TEST_F(AddFeedTest, TheFeedHasReloadedBeforeTheUserReadsOfSuccess)
+{
+    std::vector<std::wstring> textsAtTheHint{L"none"};
+    application->notifier->deliver = [&](orv::IHint*) { textsAtTheHint = application->texts; };
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_TRUE(textsAtTheHint.empty());
+}
+
+TEST_F(AddFeedTest, AJobIdOf35CharactersLeadsToTheUpload)
+{
+    network.expect("/api/isFilePresent/", shortIdBytes);
+    network.expect("/api/UploadInput/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"first");
+    ASSERT_EQ(network.sent().size(), 3U);
+    auto const& upload = network.sent()[1];
+    EXPECT_EQ(upload.field("filename"), "gearbox.step");
+    EXPECT_EQ(upload.field("type"), "prc");
+    EXPECT_EQ(upload.request.file, orv::FileUtils::getTempPath() + L"gearbox.prc");
+    EXPECT_EQ(upload.fileContent, "PRC of the tests, without preferences");
+    EXPECT_EQ(network.last().field("jobid"), jobIdBytes);
+    EXPECT_TRUE(std::filesystem::exists(upload.request.file)); // stays behind
+    EXPECT_EQ(application->texts, std::vector<std::wstring>{text(109)});
+
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"second"); // the service has the model now
+    EXPECT_EQ(network.sent().size(), 5U);
+}
+
+TEST_F(AddFeedTest, TheCommentGoesOutWhateverTheUploadGave)
+{
+    network.expect("/api/isFilePresent/", "");
+    network.expectFailure("/api/UploadInput/");
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_EQ(network.last().field("jobid"), "failed");
+    network.expectFailure("/api/isFilePresent/");
+    network.expect("/api/UploadInput/", "");
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_EQ(network.last().field("jobid"), "");
+    EXPECT_EQ(application->lastText(), text(109));
+}
+
+TEST_F(AddFeedTest, ACommentThatTheServiceRefusesLooksAdded)
+{
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expectFailure("/api/CommentSync/", orv::ErrorCode::refused, 400);
+    submit(L"hello");
+    EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"");
+    EXPECT_EQ(application->lastText(), text(109));
+    EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::commentAdded});
+}
+
+TEST_F(AddFeedTest, AnEmptyTextIsRefusedWithAWord)
+{
+    submit(L"");
+    EXPECT_EQ(application->texts, std::vector<std::wstring>{text(110)});
+    EXPECT_TRUE(network.sent().empty());
+    EXPECT_FALSE(std::filesystem::exists(dataDirectory / "Cloud" / "image.jpeg"));
+}
+
+TEST_F(AddFeedTest, ATextOfBlanksIsSent)
+{
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"   ");
+    Json::Value record;
+    ASSERT_TRUE(Json::Reader().parse(network.last().field("comment"), record));
+    EXPECT_EQ(record["commentcontent"]["content"].asString(), "   ");
+}
+
+TEST_F(AddFeedTest, WithoutAConnectionTheTextStays)
+{
+    orvplatform::setConnectedForTest(false);
+    submit(L"hello");
+    EXPECT_EQ(application->texts, std::vector<std::wstring>{text(111)});
+    EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"hello");
+    EXPECT_TRUE(network.sent().empty());
+}
+
+TEST_F(AddFeedTest, TheConnectionIsAskedBeforeTheText)
+{
+    orvplatform::setConnectedForTest(false);
+    submit(L"");
+    EXPECT_EQ(application->texts, std::vector<std::wstring>{text(111)});
+}
+
+TEST_F(AddFeedTest, WithoutANotifierTheCommentIsSentAndTheBoxEmptied)
+{
+    application->notifier.reset();
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"");
+    EXPECT_EQ(application->lastText(), text(109));
+}
+
+TEST_F(AddFeedTest, OnlyTheHintOfAnOpenedDocumentChangesTheModel)
+{
+    TestScene other(L"/models/other.stp");
+    other.application->application = application;
+    for (short const code : {codes::documentActivated, codes::feedReloaded, codes::signedIn, codes::signedOut}) {
+        sendHint(*form, code, other.document);
+    }
+    sendHint(*form, codes::documentOpened, nullptr);
+    form->OnUpdate(nullptr);
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_EQ(network.last().field("filename"), "gearbox.step");
+}
+
+TEST_F(AddFeedTest, EscapeLeavesTheFormOnShow)
+{
+    typeText(*form, box, L"half a sentence");
+    pressKey(*form, VK_ESCAPE);
+    EXPECT_TRUE(form->IsWindowVisible());
+    EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"half a sentence");
+}
+
+TEST_F(AddFeedTest, TheButtonSpeaksTheUsersLanguage)
+{
+    struct {
+        wchar_t const* language;
+        wchar_t const* label;
+    } const cases[] = {{L"fr", L"Soumettre"}, {L"de", L"einreichen"}, {L"ja", L"提出する"}, {L"ko", L"제출"},
+                       {L"zh", L"提交"},      {L"es", L"Enviar"},     {L"pt", L"Enviar"},   {L"it", L"Submit"}};
+    for (auto const& [language, label] : cases) {
+        configure(language);
+        auto* const other = new AddFeed;
+        ASSERT_TRUE(other->Create(AddFeed::templateId(), &frame));
+        EXPECT_EQ(orvplatform::testing::textOf(*other, submitButton), label);
+        other->DestroyWindow();
+    }
+}

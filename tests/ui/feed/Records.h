@@ -1,0 +1,54 @@
+#pragma once
+
+#include "feed/Feed.h"
+#include "feed/Thumbnail.h"
+
+#include <string>
+#include <vector>
+
+namespace orvtest
+{
+
+/// A picture file of that size, white.
+inline std::string pictureBytes(int width, int height)
+{
+    return "P6 " + std::to_string(width) + " " + std::to_string(height) + " 255\n" +
+           std::string(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3, '\xff');
+}
+
+inline std::wstring dataUri(std::string const& bytes)
+{
+    std::string const payload = encodeBase64(bytes);
+    return L"data:image/jpeg;base64," + std::wstring(payload.begin(), payload.end());
+}
+
+inline Feed comment(std::wstring content, std::wstring author = L"Ann", std::wstring email = L"ann@example.com")
+{
+    Feed feed;
+    feed.author = FeedAuthor(L"id", std::move(author), std::move(email), false, false);
+    feed.file = FeedFile(L"0f8fad5b-d9cb-469f-a165-70867728950e", L"gearbox.step");
+    feed.comment.id = L"c0ffee00-0000-4000-8000-000000000001";
+    feed.comment.commentType = L"text";
+    feed.comment.content = std::move(content);
+    feed.comment.publishedTime = L"Nov 15, 2026 16:11 PM";
+    feed.comment.viewport = FeedViewport({0, 0, 100}, {0, 0, 0}, {0, 1, 0}, 1.0);
+    feed.action = FeedAction(L"view", L" ");
+    feed.source = L"desktop";
+    return feed;
+}
+
+/// The answer to a feed request: one entry an author, newest first.
+inline std::string feedJson(std::vector<std::string> const& authors)
+{
+    std::string text = "[";
+    for (auto const& author : authors) {
+        if (text.size() > 1) {
+            text += ",";
+        }
+        text += R"({"Content":"{\"author\":{\"name\":\")" + author +
+                R"(\",\"email\":\"x@example.com\"},\"commentcontent\":{\"content\":\"hello\"}}"})";
+    }
+    return text + "]";
+}
+
+} // namespace orvtest
