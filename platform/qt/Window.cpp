@@ -28,13 +28,13 @@ QSet<HWND>& liveWindows()
 bool defaultReached = false;
 
 // WM_DESTROY goes from the window down to its descendants, WM_NCDESTROY comes back up.
-void endTree(HWND window)
+void endTree(HWND window, bool withChildren = true)
 {
     if (window->ending)
         return;
     window->ending = true;
     deliver(window, WM_DESTROY, 0, 0);
-    if (window->widget) {
+    if (window->widget && withChildren) {
         for (QWidget* child : window->widget->findChildren<QWidget*>())
             if (HWND handle = existingHandle(child))
                 endTree(handle);
@@ -158,7 +158,8 @@ HWND__::HWND__(QWidget* shown, std::wstring name)
 
 HWND__::~HWND__()
 {
-    orvplatform::endTree(this);
+    // The widget is losing its children, this one among them; they end their own handles.
+    orvplatform::endTree(this, false);
 }
 
 bool HWND__::eventFilter(QObject* watched, QEvent* event)
