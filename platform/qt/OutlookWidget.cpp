@@ -143,10 +143,11 @@ public:
         foldButton.setVisible(pane && pane->frame && pane->frame->canFold);
     }
 
-    QTabBar bar;
-    QStackedWidget stack;
+    // First, so that they go last: they hold the others, which are nobody's to delete.
     QWidget opened;
     QWidget folded;
+    QTabBar bar;
+    QStackedWidget stack;
     QToolButton floatButton;
     QToolButton foldButton;
     std::vector<Pane> panes;
