@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <vector>
 
 using orvgl::Camera;
 using orvviewer::StandardView;
@@ -61,12 +63,14 @@ std::pair<double, double> projected(Camera const& camera, Point const& p)
     return {x / height, y / height};
 }
 
-orvsg::BBox boxOf(float size)
+std::vector<Point> cornersOf(float size)
 {
-    orvsg::BBox box;
-    box.add(Point(-size, -size, -size));
-    box.add(Point(size, size, size));
-    return box;
+    std::vector<Point> corners;
+    for (unsigned corner = 0; corner < 8; ++corner) {
+        auto const sign = [corner, size](unsigned bit) { return (corner & bit) != 0 ? size : -size; };
+        corners.emplace_back(sign(1), sign(2), sign(4));
+    }
+    return corners;
 }
 
 } // namespace
@@ -180,12 +184,10 @@ TEST(CameraMotion, FitShowsEveryCornerAndNoMoreThanNeeded)
             auto camera = frontCamera();
             camera.orthographic = orthographic;
             orvviewer::lookFrom(camera, StandardView::isometric);
-            auto const box = boxOf(30.0F);
-            orvviewer::fit(camera, box, aspect);
+            orvviewer::fit(camera, cornersOf(30.0F), aspect);
             double widest = 0.0;
-            for (unsigned corner = 0; corner < 8; ++corner) {
-                auto const sign = [corner](unsigned bit) { return (corner & bit) != 0 ? 30.0F : -30.0F; };
-                auto const [x, y] = projected(camera, Point(sign(1), sign(2), sign(4)));
+            for (auto const& corner : cornersOf(30.0F)) {
+                auto const [x, y] = projected(camera, corner);
                 widest = std::max({widest, 2.0 * std::abs(y), 2.0 * std::abs(x) / aspect});
             }
             EXPECT_LE(widest, 1.0);
@@ -195,10 +197,11 @@ TEST(CameraMotion, FitShowsEveryCornerAndNoMoreThanNeeded)
     }
 }
 
-TEST(CameraMotion, FitToAnEmptyBoxChangesNothing)
+TEST(CameraMotion, FitToNothingChangesNothing)
 {
     auto camera = frontCamera();
-    orvviewer::fit(camera, orvsg::BBox(), 1.5);
+    orvviewer::fit(camera, {}, 1.5);
+    orvviewer::fit(camera, std::vector<Point>{Point(NAN, 0.0F, 0.0F)}, 1.5);
     EXPECT_EQ(camera, frontCamera());
 }
 
@@ -210,7 +213,7 @@ TEST(CameraMotion, RecordsFromElsewhereAreSurvived)
     orvviewer::orbit(camera, 0.3, 0.2);
     orvviewer::pan(camera, 0.3, 0.2);
     orvviewer::zoom(camera, 0.9, 0.1, 0.1);
-    orvviewer::fit(camera, boxOf(5.0F), 1.0);
+    orvviewer::fit(camera, cornersOf(5.0F), 1.0);
     EXPECT_TRUE(std::isfinite(camera.eye[0]) && std::isfinite(camera.eye[1]) && std::isfinite(camera.eye[2]));
     EXPECT_GT(distance(camera.eye, camera.target), 1.0);
 }

@@ -1,14 +1,11 @@
 #include "tests/viewer/ModelFixture.h"
 
 #include "host/orvgl/SCRenderer.h"
-#include "host/orvsg/SCInfo.h"
-#include "host/orvsg/SCPmi.h"
 #include "host/orvsg/SCSceneRT.h"
 #include "host/orvsg/SCSceneRes.h"
 #include "host/orvsg/SCSceneTopo.h"
-#include "host/orvsgutils/BBoxUtils.h"
 #include "host/orvsgutils/MaterialUtils.h"
-#include "viewer/scene/CameraMotion.h"
+#include "viewer/commands/ViewCommands.h"
 #include "viewer/scene/SceneDisplay.h"
 
 #include <vector>
@@ -45,11 +42,8 @@ protected:
         resources = orv::recordOf<orvsg::SCSceneRes>(document);
         runtime = orv::recordOf<orvsg::SCSceneRT>(document);
         renderer = orv::recordOf<orvgl::SCRenderer>(document);
-        auto const box = orvsgutils::BBoxUtils::get(resources, topology, orv::recordOf<orvsg::SCPmi>(document), runtime,
-                                                    orvsg::SCInfo::assembly, true, true);
         *renderer->camera = orvgl::Camera();
-        orvviewer::lookFrom(*renderer->camera, orvviewer::StandardView::isometric);
-        orvviewer::fit(*renderer->camera, box, 1.0);
+        orvviewer::setFirstView(document, 1.0);
         orvsgutils::MaterialUtils::resetAll(resources, runtime, topology);
         resources->transforms = resources->initialTransforms;
         renderer->settings = {false, false, false};

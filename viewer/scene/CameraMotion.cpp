@@ -170,29 +170,37 @@ void lookFrom(orvgl::Camera& camera, StandardView view)
     }
 }
 
-void fit(orvgl::Camera& camera, orvsg::BBox const& box, double aspect)
+void fit(orvgl::Camera& camera, std::span<Record const> points, double aspect)
 {
-    if (box.isEmpty) {
+    if (points.empty()) {
         return;
     }
     Axes const axes = axesOf(camera);
-    Vector const low = vectorOf(box.minimum);
-    Vector const high = vectorOf(box.maximum);
-    Vector const middle = 0.5 * (low + high);
-    double const vertical = halfHeightAtUnitDistance(camera);
-    double const horizontal = vertical * std::max(aspect, 0.01);
-    double distance = 0.0;
-    for (unsigned corner = 0; corner < 8; ++corner) {
-        Vector const point{(corner & 1U) != 0 ? high[0] : low[0], (corner & 2U) != 0 ? high[1] : low[1],
-                           (corner & 4U) != 0 ? high[2] : low[2]};
-        Vector const arm = point - middle;
-        double const nearer = camera.orthographic ? 0.0 : -dot(arm, axes.forward);
-        distance = std::max({distance, std::abs(dot(arm, axes.up)) * fitMargin / vertical + nearer,
-                             std::abs(dot(arm, axes.right)) * fitMargin / horizontal + nearer});
+    Vector low = vectorOf(points.front());
+    Vector high = low;
+    for (auto const& point : points) {
+        for (unsigned char axis = 0; axis < 3; ++axis) {
+            low[axis] = std::min(low[axis], static_cast<double>(point[axis]));
+            high[axis] = std::max(high[axis], static_cast<double>(point[axis]));
+        }
     }
-    distance = std::clamp(distance, nearestDistance, farthestDistance);
+    Vector const middle = 0.5 * (low + high);
+    double const radius = 0.5 * lengthOf(high - low);
+    if (!std::isfinite(radius)) {
+        return;
+    }
+    double const vertical = halfHeightAtUnitDistance(camera) / fitMargin;
+    double const horizontal = vertical * std::max(aspect, 0.01);
+    double distance = nearestDistance;
+    for (auto const& point : points) {
+        Vector const arm = vectorOf(point) - middle;
+        double const nearer = camera.orthographic ? 0.0 : -dot(arm, axes.forward);
+        distance = std::max({distance, std::abs(dot(arm, axes.up)) / vertical + nearer,
+                             std::abs(dot(arm, axes.right)) / horizontal + nearer});
+    }
+    distance = std::min(distance, farthestDistance);
     camera.centre = recordOf(middle);
-    camera.radius = std::max(static_cast<float>(0.5 * lengthOf(high - low)), 1e-3F);
+    camera.radius = std::max(static_cast<float>(radius), 1e-3F);
     camera.target = recordOf(middle);
     camera.eye = recordOf(middle - distance * axes.forward);
     camera.up = recordOf(axes.up);

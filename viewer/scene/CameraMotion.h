@@ -1,7 +1,8 @@
 #pragma once
 
 #include "host/orvgl/Camera.h"
-#include "host/orvsg/BBox.h"
+
+#include <span>
 
 /// What a user does to a camera record. Eye, target and up alone define the picture, so every motion moves just these;
 /// fitting also sets the sphere of the depth range. Angles in radians, lengths in millimetres.
@@ -32,8 +33,8 @@ void lookFrom(orvgl::Camera& camera, StandardView view);
 /// The same from any direction: from the target to the eye.
 void lookFrom(orvgl::Camera& camera, double x, double y, double z);
 
-/// Puts the target to the middle of the box and the eye so far back that all of it shows in a picture of the given
-/// width-to-height ratio. An empty box changes nothing.
-void fit(orvgl::Camera& camera, orvsg::BBox const& box, double aspect);
+/// Puts the target to the middle of the points' box and the eye so far back that all of them show in a picture of the
+/// given width-to-height ratio. No point, or one that isn't finite, changes nothing.
+void fit(orvgl::Camera& camera, std::span<orvmath::Tuple<float, 3> const> points, double aspect);
 
 } // namespace orvviewer

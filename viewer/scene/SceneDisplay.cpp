@@ -219,6 +219,11 @@ void SceneDisplay::setDocument(std::shared_ptr<orv::IDocument> document)
     applyCamera();
 }
 
+std::shared_ptr<orv::IDocument> const& SceneDisplay::document() const
+{
+    return state->document;
+}
+
 void SceneDisplay::sync()
 {
     state->presentations->sync();

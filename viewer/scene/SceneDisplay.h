@@ -38,6 +38,7 @@ public:
 
     /// Null shows nothing. The document's records must be complete.
     void setDocument(std::shared_ptr<orv::IDocument> document);
+    std::shared_ptr<orv::IDocument> const& document() const;
     /// Brings presentations in line with the records; costs little where little has changed.
     void sync();
     /// Takes the document's camera and renderer settings over.

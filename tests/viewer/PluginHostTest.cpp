@@ -1,0 +1,214 @@
+#include "tests/viewer/SessionFixture.h"
+
+#include "host/orv/IHint.h"
+#include "host/orvsg/SCSceneRT.h"
+#include "host/orvui/Hint.h"
+#include "platform/testing/ModalExpectation.h"
+#include "viewer/app/MainWindow.h"
+#include "viewer/commands/CommandId.h"
+#include "viewer/commands/PartCommands.h"
+#include "viewer/plugins/PluginHost.h"
+#include "viewer/plugins/SideBar.h"
+
+#include <afxcontrolbars.h>
+#include <windows.h>
+
+#include <algorithm>
+
+using namespace orvtest;
+
+namespace
+{
+
+class PluginHostTest : public SessionFixture
+{
+protected:
+    /// Puts a test library in the place of the viewer's own plug-in.
+    void install(char const* name)
+    {
+        auto const library =
+            std::filesystem::path(ORV_BINARY_DIR) / "tests" / "viewer-plugins" / (std::string(name) + ".so");
+        std::filesystem::copy_file(library, installed(), std::filesystem::copy_options::overwrite_existing);
+    }
+    std::filesystem::path installed() const { return guiFolder() / "cloudplugin.so"; }
+
+    std::vector<std::string> takeEvents() const
+    {
+        std::vector<std::string> list;
+        auto const module = LoadLibraryW(installed().wstring().c_str());
+        auto const take = reinterpret_cast<void (*)(std::vector<std::string>*)>(
+            reinterpret_cast<void (*)()>(GetProcAddress(module, "takeEvents")));
+        take(&list);
+        FreeLibrary(module);
+        return list;
+    }
+
+    static std::ptrdiff_t placeOf(std::vector<std::string> const& list, std::string const& event)
+    {
+        auto const found = std::find(list.begin(), list.end(), event);
+        return found == list.end() ? -1 : found - list.begin();
+    }
+
+    void expectWorks()
+    {
+        ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+        session->context().select({1});
+        EXPECT_TRUE(session->runCommand(orvviewer::hideParts));
+        EXPECT_FALSE(orv::recordOf<orvsg::SCSceneRT>(session->document())->visibility[1]);
+        session->closeModel();
+        EXPECT_FALSE(session->document());
+    }
+};
+
+} // namespace
+
+TEST_F(PluginHostTest, AMissingPluginIsASentence)
+{
+    start();
+    EXPECT_NE(status().find("missing"), std::string::npos) << status();
+    EXPECT_EQ(session->plugins().count(), 0U);
+    EXPECT_FALSE(session->window().isSideBarShown()) << "no pane, no side bar";
+    expectWorks();
+}
+
+TEST_F(PluginHostTest, AFileThatIsNoLibraryIsASentence)
+{
+    writeFile(installed(), "this is no library");
+    start();
+    EXPECT_NE(status().find("can't be loaded"), std::string::npos) << status();
+    expectWorks();
+}
+
+TEST_F(PluginHostTest, ALibraryWithoutTheFunctionsIsASentence)
+{
+    install("NoEntry");
+    start();
+    EXPECT_NE(status().find("createPlugin"), std::string::npos) << status();
+    expectWorks();
+}
+
+TEST_F(PluginHostTest, ALibraryThatMakesNothingIsASentence)
+{
+    install("Empty");
+    start();
+    EXPECT_NE(status().find("made no object"), std::string::npos) << status();
+    expectWorks();
+}
+
+TEST_F(PluginHostTest, ALibraryThatThrowsWhenLoadedIsASentence)
+{
+    install("Refusing");
+    start();
+    EXPECT_NE(status().find("refused on purpose"), std::string::npos) << status();
+    expectWorks();
+}
+
+TEST_F(PluginHostTest, APluginThatThrowsEverywhereIsSurvived)
+{
+    install("Throwing");
+    start();
+    EXPECT_NE(status().find("thrown on purpose"), std::string::npos) << status();
+    EXPECT_EQ(session->plugins().count(), 1U);
+    expectWorks();
+    EXPECT_NE(status().find("thrown on purpose"), std::string::npos) << "each hint threw, too";
+}
+
+TEST_F(PluginHostTest, SetsThePluginUpOnce)
+{
+    install("Recording");
+    start();
+    auto const list = takeEvents();
+    EXPECT_EQ(std::count(list.begin(), list.end(), "parent"), 1);
+    EXPECT_EQ(std::count(list.begin(), list.end(), "ribbon"), 1);
+    EXPECT_EQ(std::count(list.begin(), list.end(), "side bar"), 1);
+    EXPECT_EQ(placeOf(list, "no category"), -1);
+    EXPECT_EQ(placeOf(list, "no tabs"), -1);
+    EXPECT_LT(placeOf(list, "parent"), placeOf(list, "ribbon"));
+    EXPECT_TRUE(session->window().isSideBarShown());
+    EXPECT_EQ(session->sideBar().paneCount(), 1);
+}
+
+TEST_F(PluginHostTest, PutsThePluginsPanelBeforeTheLast)
+{
+    install("Recording");
+    start();
+    auto* category = session->ribbonBar().GetActiveCategory();
+    ASSERT_NE(category, nullptr);
+    int const count = category->GetPanelCount();
+    EXPECT_EQ(std::wstring(category->GetPanel(count - 2)->GetName()), L"Recording");
+    EXPECT_EQ(std::wstring(category->GetPanel(count - 1)->GetName()), L"Options");
+}
+
+TEST_F(PluginHostTest, DeliversTheHintsOfADocumentsLife)
+{
+    install("Recording");
+    start();
+    takeEvents();
+    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    auto list = takeEvents();
+    EXPECT_GE(placeOf(list, "hint 1"), 0);
+    EXPECT_LT(placeOf(list, "hint 1"), placeOf(list, "hint 3"));
+    EXPECT_GE(placeOf(list, "pane hint 1"), 0);
+    EXPECT_GE(placeOf(list, "pane hint 3"), 0);
+    EXPECT_LT(placeOf(list, "hint 3"), placeOf(list, "hint 40")) << "a hint raised within a hint";
+    EXPECT_GE(placeOf(list, "pane hint 40"), 0);
+    EXPECT_LT(placeOf(list, "pane hint 40"), placeOf(list, "pane hint 3")) << "and delivered before the outer one ends";
+    session->context().select({1});
+    session->runCommand(orvviewer::fitAll);
+    session->runCommand(orvviewer::hideParts);
+    list = takeEvents();
+    EXPECT_GE(placeOf(list, "hint 10"), 0);
+    EXPECT_GE(placeOf(list, "pane hint 9"), 0);
+    EXPECT_GE(placeOf(list, "hint 14"), 0);
+    session->closeModel();
+    EXPECT_GE(placeOf(takeEvents(), "hint 5"), 0);
+}
+
+TEST_F(PluginHostTest, ActivatesThePaneForEachOpenedModel)
+{
+    install("Recording");
+    start();
+    takeEvents();
+    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    auto const list = takeEvents();
+    EXPECT_LT(placeOf(list, "pane hint 3"), placeOf(list, "pane activated"));
+}
+
+TEST_F(PluginHostTest, RoutesCommandsByThePluginsOwnNumber)
+{
+    install("Recording");
+    start();
+    unsigned int const id = orvviewer::firstPluginCommand;
+    EXPECT_TRUE(session->plugins().owns(id));
+    EXPECT_FALSE(session->plugins().owns(id + 500));
+    EXPECT_FALSE(session->runCommand(id)) << "disabled without a document";
+    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    takeEvents();
+    EXPECT_TRUE(session->runCommand(id));
+    EXPECT_GE(placeOf(takeEvents(), "command 118"), 0);
+    EXPECT_EQ(status(), "The command ran.");
+}
+
+TEST_F(PluginHostTest, AsksForPagesWheneverTheOptionsAreBuilt)
+{
+    install("Recording");
+    start();
+    takeEvents();
+    for (int i = 0; i < 2; ++i) {
+        orvplatform::testing::ModalScript script([](std::string const& why) { ADD_FAILURE() << why; });
+        script.expectModal<CMFCPropertySheet>([](CMFCPropertySheet&) { return IDCANCEL; });
+        session->runCommand(orvviewer::showOptions);
+        EXPECT_TRUE(script.allSeen());
+        EXPECT_EQ(placeOf(takeEvents(), "options"), 0);
+    }
+}
+
+TEST_F(PluginHostTest, DestroysThePluginWithTheViewer)
+{
+    install("Recording");
+    start();
+    auto const keep = LoadLibraryW(installed().wstring().c_str());
+    session.reset();
+    EXPECT_GE(placeOf(takeEvents(), "destroyed"), 0);
+    FreeLibrary(keep);
+}

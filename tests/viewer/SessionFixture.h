@@ -1,0 +1,48 @@
+#pragma once
+
+#include "tests/viewer/ModelFixture.h"
+
+#include "platform/Process.h"
+#include "platform/testing/Input.h"
+#include "viewer/app/ViewerSession.h"
+
+#include <memory>
+
+namespace orvtest
+{
+
+/// A viewer whose user data and libraries lie in a folder of the test's own; nothing of the build is loaded.
+class SessionFixture : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        orvplatform::testing::ensureApplication();
+        orvplatform::setConnectedForTest(false);
+        std::filesystem::create_directories(guiFolder());
+    }
+    void TearDown() override
+    {
+        session.reset();
+        orvplatform::setConnectedForTest(std::nullopt);
+    }
+
+    std::filesystem::path guiFolder() const { return folder.path / "lib" / "gui"; }
+
+    orvviewer::ViewerSession& start()
+    {
+        session.reset();
+        orvhost::Settings settings;
+        settings.dataDirectory = (folder.path / "data").wstring();
+        settings.libraryDirectory = (folder.path / "lib").wstring();
+        session = std::make_unique<orvviewer::ViewerSession>(settings);
+        return *session;
+    }
+
+    std::string status() const { return std::filesystem::path(session->statusText()).string(); }
+
+    TemporaryFolder folder;
+    std::unique_ptr<orvviewer::ViewerSession> session;
+};
+
+} // namespace orvtest

@@ -1,0 +1,267 @@
+#include "tests/viewer/SessionFixture.h"
+
+#include "host/orv/IHint.h"
+#include "host/orv/SCApplication.h"
+#include "host/orvgl/ImageRenderer.h"
+#include "host/orvgl/SCRenderer.h"
+#include "host/orvsg/SCSceneRT.h"
+#include "host/orvsg/SCSceneRes.h"
+#include "host/orvsg/SCSceneTopo.h"
+#include "host/orvsgutils/SceneQuery.h"
+#include "host/orvui/Hint.h"
+#include "viewer/app/CommandTable.h"
+#include "viewer/app/MainWindow.h"
+#include "viewer/app/RecentFiles.h"
+#include "viewer/commands/CommandId.h"
+#include "viewer/commands/PartCommands.h"
+#include "viewer/commands/ViewCommands.h"
+
+#include <cmath>
+
+using namespace orvtest;
+
+namespace
+{
+
+class SessionTest : public SessionFixture
+{
+protected:
+    void openSample()
+    {
+        start();
+        ASSERT_TRUE(session->openModel(sampleModel().wstring())) << status();
+        topology = orv::recordOf<orvsg::SCSceneTopo>(session->document());
+        resources = orv::recordOf<orvsg::SCSceneRes>(session->document());
+        runtime = orv::recordOf<orvsg::SCSceneRT>(session->document());
+        for (int i = 0; i < static_cast<int>(topology->nodes.size()) && part < 0; ++i) {
+            if (topology->nodes.getValue(i).mesh >= 0 && i > 1) {
+                part = i;
+            }
+        }
+        ASSERT_GE(part, 0);
+    }
+
+    orvsgutils::SceneQuery scene() const { return orvsgutils::SceneQuery(session->document()); }
+
+    std::shared_ptr<orvsg::SCSceneTopo> topology;
+    std::shared_ptr<orvsg::SCSceneRes> resources;
+    std::shared_ptr<orvsg::SCSceneRT> runtime;
+    int part = -1; ///< a leaf that isn't the first
+};
+
+} // namespace
+
+TEST_F(SessionTest, OpensAModelAndSaysSo)
+{
+    openSample();
+    EXPECT_NE(status().find("planetary-gearbox.step"), std::string::npos);
+    EXPECT_EQ(session->window().windowTitle().toStdString(), "planetary-gearbox.step - Orvanta");
+    auto const link = orv::recordOf<orv::SCApplication>(session->document());
+    ASSERT_TRUE(link);
+    EXPECT_EQ(link->application, session->application());
+    EXPECT_TRUE(link->application->getViewNotifier());
+    EXPECT_NE(link->application->getStatusManager(), nullptr);
+}
+
+TEST_F(SessionTest, ABadFileLeavesTheOpenModelOpen)
+{
+    openSample();
+    auto const before = session->document();
+    EXPECT_FALSE(session->openModel(writeFile(folder.path / "cut.step", "ISO-10303-21;\nHEADER;").wstring()));
+    EXPECT_EQ(session->document(), before);
+    EXPECT_NE(status().find("ends too early"), std::string::npos);
+    EXPECT_FALSE(session->openModel(L"/nowhere/at-all.step"));
+    EXPECT_EQ(session->document(), before);
+}
+
+TEST_F(SessionTest, ClosingLeavesNoDocument)
+{
+    openSample();
+    session->closeModel();
+    EXPECT_FALSE(session->document());
+    EXPECT_EQ(session->window().windowTitle().toStdString(), "Orvanta");
+    session->closeModel();
+    EXPECT_FALSE(session->runCommand(orvviewer::hideParts));
+}
+
+TEST_F(SessionTest, HidesIsolatesAndShowsParts)
+{
+    openSample();
+    auto& context = session->context();
+    context.select({part});
+    EXPECT_TRUE(session->runCommand(orvviewer::hideParts));
+    EXPECT_FALSE(scene().isShown(part));
+    EXPECT_TRUE(session->runCommand(orvviewer::isolateParts));
+    EXPECT_TRUE(scene().isShown(part));
+    int shown = 0;
+    for (int i = 0; i < scene().nodeCount(); ++i) {
+        shown += scene().isShown(i) && topology->nodes.getValue(i).mesh >= 0 ? 1 : 0;
+    }
+    EXPECT_EQ(shown, 1);
+    EXPECT_TRUE(session->runCommand(orvviewer::showAllParts));
+    for (int i = 0; i < scene().nodeCount(); ++i) {
+        EXPECT_TRUE(scene().isShown(i));
+    }
+}
+
+TEST_F(SessionTest, ColoursAndTransparencyAreOverridesThatGoAgain)
+{
+    openSample();
+    auto& context = session->context();
+    auto const before = scene().color(part);
+    orvviewer::colourNodes(context, {part}, 0x123456);
+    EXPECT_EQ(scene().color(part), 0x123456UL);
+    EXPECT_EQ(runtime->coloredNodes.getValue(0), part);
+    orvviewer::colourNodes(context, {0}, 0x0000FF);
+    EXPECT_EQ(scene().color(part), 0x0000FFUL) << "the whole takes its parts along";
+    orvviewer::uncolourNodes(context, {0});
+    EXPECT_EQ(scene().color(part), before);
+
+    orvviewer::makeTransparent(context, {part}, 0.5F);
+    EXPECT_FLOAT_EQ(scene().transparency(part), 0.5F);
+    orvviewer::makeTransparent(context, {0}, 0.75F);
+    EXPECT_FLOAT_EQ(scene().transparency(part), 0.75F);
+    orvviewer::makeTransparent(context, {part}, 0.0F);
+    EXPECT_FLOAT_EQ(scene().transparency(part), 0.0F);
+    EXPECT_FLOAT_EQ(scene().transparency(0), 0.75F);
+    orvviewer::makeTransparent(context, {0}, 0.0F);
+    EXPECT_FLOAT_EQ(scene().transparency(0), 0.0F);
+}
+
+TEST_F(SessionTest, MovesPartsAlongTheModelsAxes)
+{
+    openSample();
+    auto const before = scene().worldMatrix(part);
+    orvviewer::moveNodes(session->context(), {part}, 10.0, -5.0, 2.5);
+    auto const after = scene().worldMatrix(part);
+    EXPECT_NEAR(after[12] - before[12], 10.0, 1e-3);
+    EXPECT_NEAR(after[13] - before[13], -5.0, 1e-3);
+    EXPECT_NEAR(after[14] - before[14], 2.5, 1e-3);
+    EXPECT_TRUE(resources->transforms.getValue(topology->transformOfNode.getValue(part)).isSet);
+}
+
+TEST_F(SessionTest, APartOfAMovedWholeMovesOnce)
+{
+    openSample();
+    auto const before = scene().worldMatrix(part);
+    orvviewer::moveNodes(session->context(), {0, part}, 7.0, 0.0, 0.0);
+    EXPECT_NEAR(scene().worldMatrix(part)[12] - before[12], 7.0, 1e-3);
+}
+
+TEST_F(SessionTest, ResetBringsBackWhatTheFileSays)
+{
+    openSample();
+    auto& context = session->context();
+    auto const color = scene().color(part);
+    auto const transforms = resources->transforms;
+    orvviewer::colourNodes(context, {part}, 0x112233);
+    orvviewer::makeTransparent(context, {part}, 0.9F);
+    orvviewer::moveNodes(context, {part}, 1.0, 2.0, 3.0);
+    orvviewer::hideNodes(context, {part});
+    EXPECT_TRUE(session->runCommand(orvviewer::resetParts));
+    EXPECT_EQ(scene().color(part), color);
+    EXPECT_FLOAT_EQ(scene().transparency(part), 0.0F);
+    EXPECT_TRUE(scene().isShown(part));
+    for (int i = 0; i < static_cast<int>(transforms.size()); ++i) {
+        EXPECT_EQ(resources->transforms.getValue(i), transforms.getValue(i));
+    }
+}
+
+TEST_F(SessionTest, NodesOutsideTheModelAreIgnored)
+{
+    openSample();
+    auto& context = session->context();
+    for (int const node : {-1, -2147483647, 100000}) {
+        context.select({node});
+        EXPECT_TRUE(context.selection().empty());
+        orvviewer::hideNodes(context, {node});
+        orvviewer::showNodes(context, {node});
+        orvviewer::colourNodes(context, {node}, 1);
+        orvviewer::makeTransparent(context, {node}, 0.5F);
+        orvviewer::moveNodes(context, {node}, 1.0, 1.0, 1.0);
+        orvviewer::fitNodes(context, {node});
+    }
+}
+
+TEST_F(SessionTest, ViewCommandsMoveTheCameraRecord)
+{
+    openSample();
+    auto const renderer = orv::recordOf<orvgl::SCRenderer>(session->document());
+    EXPECT_TRUE(session->runCommand(orvviewer::viewFront));
+    EXPECT_LT(renderer->camera->eye[1], renderer->camera->target[1]);
+    EXPECT_NEAR(renderer->camera->eye[0], renderer->camera->target[0], 1e-3);
+    EXPECT_TRUE(session->runCommand(orvviewer::togglePerspective));
+    EXPECT_TRUE(renderer->camera->orthographic);
+    auto const distance = renderer->camera->target[1] - renderer->camera->eye[1];
+    EXPECT_TRUE(session->runCommand(orvviewer::zoomIn));
+    EXPECT_LT(renderer->camera->target[1] - renderer->camera->eye[1], distance);
+}
+
+TEST_F(SessionTest, CommandsNeedWhatTheyWorkOn)
+{
+    start();
+    for (auto const id : {orvviewer::closeFile, orvviewer::exportFile, orvviewer::fitAll, orvviewer::hideParts,
+                          orvviewer::moveParts, orvviewer::resetParts}) {
+        EXPECT_FALSE(session->commands().isEnabled(id)) << id;
+    }
+    EXPECT_TRUE(session->commands().isEnabled(orvviewer::openFile));
+    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    EXPECT_TRUE(session->commands().isEnabled(orvviewer::fitAll));
+    EXPECT_FALSE(session->commands().isEnabled(orvviewer::hideParts));
+    session->context().select({0});
+    EXPECT_TRUE(session->commands().isEnabled(orvviewer::hideParts));
+    EXPECT_FALSE(session->runCommand(999999));
+}
+
+TEST_F(SessionTest, RemembersWhatWasOpened)
+{
+    openSample();
+    orvviewer::RecentFiles const recent;
+    ASSERT_EQ(recent.paths().size(), 1U);
+    EXPECT_EQ(std::filesystem::path(recent.paths()[0]), sampleModel());
+    auto const copy = folder.path / "copy.step";
+    std::filesystem::copy_file(sampleModel(), copy);
+    ASSERT_TRUE(session->openModel(copy.wstring()));
+    ASSERT_EQ(recent.paths().size(), 2U);
+    EXPECT_EQ(std::filesystem::path(recent.paths()[0]), copy);
+    std::filesystem::remove(copy);
+    EXPECT_EQ(recent.paths().size(), 1U) << "what is gone isn't offered";
+}
+
+TEST_F(SessionTest, SavingWithoutAnExporterIsASentenceAndAStatus)
+{
+    openSample();
+    int outcome = 0;
+    auto const path = (folder.path / "out.stl").wstring();
+    session->application()->saveFile(path.c_str(),
+                                     [&](int const* status, wchar_t const*, orv::IApplication*) { outcome = *status; });
+    EXPECT_NE(outcome, 0);
+    EXPECT_NE(status().find("out.stl"), std::string::npos);
+    EXPECT_FALSE(session->exportModel((folder.path / "out.prc").wstring()));
+    EXPECT_NE(status().find("prcdelaywriter"), std::string::npos);
+}
+
+TEST_F(SessionTest, TheApplicationOutlivesItsWindowInSilence)
+{
+    openSample();
+    auto const application = session->application();
+    auto const document = session->document();
+    session.reset();
+    application->showStatus(L"Nobody reads this.", 0);
+    EXPECT_FALSE(application->getViewNotifier());
+    application->getStatusManager()->setProgress(5, 1);
+    int outcome = 0;
+    application->saveFile(L"/nowhere.stl",
+                          [&](int const* status, wchar_t const*, orv::IApplication*) { outcome = *status; });
+    EXPECT_NE(outcome, 0);
+    EXPECT_EQ(orvgl::ImageRenderer(document, 8, 8, false).drawFrame().get()[0], 255) << "nothing draws any more";
+}
+
+TEST_F(SessionTest, OneViewerMayFollowAnother)
+{
+    for (int i = 0; i < 3; ++i) {
+        openSample();
+        EXPECT_TRUE(session->document());
+        session.reset();
+    }
+}

@@ -1,0 +1,154 @@
+#include "tests/viewer/SessionFixture.h"
+
+#include "host/orvgl/ImageRenderer.h"
+#include "host/orvgl/SCRenderer.h"
+#include "host/orvsg/SCSceneRT.h"
+#include "host/orvsg/SCSceneTopo.h"
+#include "viewer/app/MainWindow.h"
+#include "viewer/app/ModelView.h"
+#include "viewer/app/RecentFiles.h"
+#include "viewer/commands/CommandId.h"
+#include "viewer/commands/PartCommands.h"
+
+#include <QTest>
+
+#include <cmath>
+#include <cstring>
+#include <vector>
+
+using namespace orvtest;
+
+namespace
+{
+
+/// With a display: the window is on the screen and the model is drawn in it.
+class WindowTest : public SessionFixture
+{
+protected:
+    void openSample()
+    {
+        start();
+        ASSERT_TRUE(session->canDraw()) << status();
+        session->window().resize(1200, 800);
+        session->window().show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&session->window()));
+        ASSERT_TRUE(session->openModel(sampleModel().wstring())) << status();
+        orvplatform::testing::processEvents();
+    }
+
+    orvviewer::ModelView& view() { return session->window().view(); }
+    orvgl::Camera& camera() { return *orv::recordOf<orvgl::SCRenderer>(session->document())->camera; }
+    QPoint middle() { return view().rect().center(); }
+
+    std::vector<unsigned char> frame(unsigned side = 128)
+    {
+        orvgl::ImageRenderer renderer(session->document(), side, side, false);
+        auto const pixels = renderer.drawFrame();
+        return {pixels.get(), pixels.get() + std::size_t{3} * side * side};
+    }
+};
+
+double distance(orvmath::Tuple<float, 3> const& a, orvmath::Tuple<float, 3> const& b)
+{
+    return std::hypot(double{a[0]} - b[0], double{a[1]} - b[1], double{a[2]} - b[2]);
+}
+
+} // namespace
+
+TEST_F(WindowTest, DraggingTurnsTheModel)
+{
+    openSample();
+    auto const before = camera();
+    QTest::mousePress(&view(), Qt::LeftButton, {}, middle());
+    QTest::mouseMove(&view(), middle() + QPoint(40, 10));
+    QTest::mouseMove(&view(), middle() + QPoint(90, 20));
+    QTest::mouseRelease(&view(), Qt::LeftButton, {}, middle() + QPoint(90, 20));
+    EXPECT_GT(distance(before.eye, camera().eye), 1.0);
+    EXPECT_LT(distance(before.target, camera().target), 1e-4);
+    EXPECT_TRUE(session->context().selection().empty()) << "a drag is no click";
+}
+
+TEST_F(WindowTest, TheMiddleButtonPansAndTheWheelZooms)
+{
+    openSample();
+    auto const before = camera();
+    QTest::mousePress(&view(), Qt::MiddleButton, {}, middle());
+    QTest::mouseMove(&view(), middle() + QPoint(60, 0));
+    QTest::mouseRelease(&view(), Qt::MiddleButton, {}, middle() + QPoint(60, 0));
+    EXPECT_GT(distance(before.target, camera().target), 1.0);
+    auto const panned = camera();
+    QWheelEvent wheel(middle(), view().mapToGlobal(middle()), {}, QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&view(), &wheel);
+    EXPECT_LT(distance(camera().eye, camera().target), distance(panned.eye, panned.target));
+}
+
+TEST_F(WindowTest, AClickSelectsThePartUnderThePointer)
+{
+    openSample();
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, middle());
+    ASSERT_EQ(session->context().selection().size(), 1U);
+    int const node = *session->context().selection().begin();
+    EXPECT_GE(orv::recordOf<orvsg::SCSceneTopo>(session->document())->nodes.getValue(node).mesh, 0);
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, QPoint(8, view().height() / 2));
+    EXPECT_TRUE(session->context().selection().empty());
+}
+
+TEST_F(WindowTest, KeysTurnPanAndZoom)
+{
+    openSample();
+    view().setFocus();
+    auto const before = camera();
+    QTest::keyClick(&view(), Qt::Key_Left);
+    EXPECT_GT(distance(before.eye, camera().eye), 0.1);
+    auto const turned = camera();
+    QTest::keyClick(&view(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_GT(distance(turned.target, camera().target), 0.1);
+    QTest::keyClick(&view(), Qt::Key_Plus);
+    EXPECT_LT(distance(camera().eye, camera().target), distance(before.eye, before.target));
+}
+
+TEST_F(WindowTest, PluginsGetFramesOfTheShownScene)
+{
+    openSample();
+    auto const before = frame();
+    EXPECT_EQ(before, frame());
+    orvviewer::hideNodes(session->context(), {0});
+    EXPECT_NE(before, frame());
+    orvviewer::showAllNodes(session->context());
+    EXPECT_EQ(before, frame());
+}
+
+TEST_F(WindowTest, AFrameFollowsRecordsThatNoHintHasAnnouncedYet)
+{
+    openSample();
+    auto const before = frame();
+    orv::recordOf<orvsg::SCSceneRT>(session->document())->visibility[0] = false;
+    EXPECT_NE(before, frame());
+}
+
+TEST_F(WindowTest, SavesPicturesAndPreviews)
+{
+    openSample();
+    auto const picture = folder.path / "view.png";
+    EXPECT_TRUE(session->savePicture(picture.wstring(), 320, 200));
+    EXPECT_EQ(QImage(QString::fromStdString(picture.string())).size(), QSize(320, 200));
+    EXPECT_FALSE(session->savePicture((folder.path / "none" / "view.png").wstring(), 320, 200));
+    EXPECT_NE(status().find("can't be written"), std::string::npos);
+    EXPECT_FALSE(orvviewer::RecentFiles().previewOf(sampleModel().wstring()).isNull());
+}
+
+TEST_F(WindowTest, ResizingAndClosingAreSurvived)
+{
+    openSample();
+    session->window().resize(700, 500);
+    orvplatform::testing::processEvents();
+    session->closeModel();
+    session->window().resize(900, 600);
+    orvplatform::testing::processEvents();
+    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    session->window().close();
+    orvplatform::testing::processEvents();
+    session.reset();
+    openSample();
+}

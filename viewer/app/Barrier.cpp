@@ -1,0 +1,17 @@
+#include "viewer/app/Barrier.h"
+
+#include "platform/text/Text.h"
+
+namespace orvviewer
+{
+
+void Barrier::caught(std::string const& what) const
+{
+    std::wstring sentence = L"The action was broken off by an unexpected error. Try again.";
+    if (!what.empty()) {
+        sentence += L" (" + orvtext::fromUtf8(what.substr(0, what.find_first_of("\r\n"))) + L")";
+    }
+    tell(sentence);
+}
+
+} // namespace orvviewer

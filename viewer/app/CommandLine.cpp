@@ -1,0 +1,115 @@
+#include "viewer/app/CommandLine.h"
+
+#include "platform/text/Text.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cwctype>
+#include <string_view>
+
+namespace orvviewer
+{
+
+namespace
+{
+
+bool isLanguage(std::wstring const& code)
+{
+    return code.size() == 2 && std::all_of(code.begin(), code.end(), [](wchar_t c) { return c >= L'a' && c <= L'z'; });
+}
+
+} // namespace
+
+CommandLine readCommandLine(int count, char const* const* arguments)
+{
+    CommandLine line;
+    bool onlyFiles = false;
+    for (int i = 1; i < count && line.error.empty(); ++i) {
+        std::wstring argument = orvtext::fromUtf8(arguments[i]);
+        if (argument == L"--" && !onlyFiles) {
+            onlyFiles = true;
+            continue;
+        }
+        if (onlyFiles || !argument.starts_with(L"-") || argument == L"-") {
+            if (!line.file.empty()) {
+                line.error = L"Only one model can be opened at a time. Give one file.";
+            }
+            line.file = argument;
+            continue;
+        }
+        if (argument == L"--help" || argument == L"-h") {
+            line.wantsHelp = true;
+            continue;
+        }
+        if (argument == L"--version") {
+            line.wantsVersion = true;
+            continue;
+        }
+        // Both "--data DIR" and "--data=DIR".
+        std::wstring value;
+        auto const equals = argument.find(L'=');
+        bool const hasValue = equals != std::wstring::npos || i + 1 < count;
+        if (equals != std::wstring::npos) {
+            value = argument.substr(equals + 1);
+            argument.erase(equals);
+        }
+        std::wstring const option = argument;
+        if (option != L"--service" && option != L"--data" && option != L"--language" && option != L"--export" &&
+            option != L"--screenshot") {
+            line.error = L"The option \"" + option + L"\" isn't known. Use --help to see all options.";
+            break;
+        }
+        if (!hasValue) {
+            line.error = L"The option \"" + option + L"\" needs a value. Use --help to see all options.";
+            break;
+        }
+        if (equals == std::wstring::npos) {
+            value = orvtext::fromUtf8(arguments[++i]);
+        }
+        if (option == L"--service") {
+            line.serviceUrl = value;
+        } else if (option == L"--data") {
+            line.dataDirectory = value;
+        } else if (option == L"--language") {
+            line.language = value;
+            if (!isLanguage(value)) {
+                line.error = L"The language must be a code of two letters, such as \"de\".";
+            }
+        } else if (option == L"--export") {
+            line.exports.push_back(value);
+        } else {
+            line.screenshot = value;
+        }
+    }
+    if (line.error.empty() && line.isHeadless() && line.file.empty()) {
+        line.error = L"There is nothing to export or draw. Give a model file, too.";
+    }
+    return line;
+}
+
+std::wstring usage()
+{
+    return L"Usage: orvanta [FILE] [OPTION]...\n"
+           L"Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.\n\n"
+           L"  --service URL      address of the cloud service\n"
+           L"  --data DIR         where the user's data lies\n"
+           L"  --language CODE    language of the cloud panels, two letters\n"
+           L"  --export OUT       write FILE to OUT in the format of its ending and exit; may be repeated\n"
+           L"  --screenshot OUT   draw FILE to a picture (.png, .jpg) and exit\n"
+           L"  --help             show this text and exit\n"
+           L"  --version          show the version and exit\n";
+}
+
+std::wstring systemLanguage()
+{
+    for (char const* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        char const* const value = std::getenv(name);
+        if (value != nullptr && *value != '\0') {
+            auto const code = orvtext::fromUtf8(std::string_view(value).substr(0, 2));
+            return isLanguage(code) ? code : L"en";
+        }
+    }
+    return L"en";
+}
+
+} // namespace orvviewer

@@ -1,0 +1,127 @@
+#include "viewer/app/Exporting.h"
+
+#include "host/orv/DLLFuncPtrHelper.h"
+#include "host/orv/FilePath.h"
+#include "host/orv/FileUtils.h"
+#include "host/orv/IPlugin.h"
+#include "host/orvexp/DelayExportHelper.h"
+#include "host/orvexp/ExportHelper.h"
+#include "host/orvexp/ExportManager.h"
+
+#include <algorithm>
+#include <array>
+#include <cwctype>
+#include <exception>
+#include <filesystem>
+
+namespace orvviewer
+{
+
+namespace
+{
+
+constexpr wchar_t const* deferredExtension = L"prc";
+constexpr std::array<wchar_t const*, 10> usualExtensions{L"stl", L"obj", L"3ds",  L"dae", L"pdf",
+                                                         L"csv", L"u3d", L"html", L"xml", L"ply"};
+
+std::wstring extensionOf(std::wstring const& path)
+{
+    auto text = std::filesystem::path(path).extension().wstring();
+    text.erase(0, 1);
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](wchar_t c) { return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))); });
+    return text;
+}
+
+std::shared_ptr<orvexp::ExportManager> loadExporters()
+{
+    auto manager = std::make_shared<orvexp::ExportManager>(nullptr);
+    std::vector<std::filesystem::path> libraries;
+    std::error_code failure;
+    auto const folder = orv::IPlugin::getPluginPath(nullptr, orv::IPlugin::exporterPlugin);
+    for (auto const& entry : std::filesystem::directory_iterator(folder, failure)) {
+        if (entry.path().extension() == ".so") {
+            libraries.push_back(entry.path());
+        }
+    }
+    std::sort(libraries.begin(), libraries.end());
+    for (auto const& library : libraries) {
+        auto const entry = std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(library.wstring().c_str(),
+                                                                                 "createPlugin", "destroyPlugin");
+        if (entry->isValid()) {
+            manager->push_back(std::make_shared<orvexp::ExportHelper>(entry));
+        }
+    }
+    return manager;
+}
+
+std::shared_ptr<orvexp::IDelayExporter> loadDeferred(std::wstring& error)
+{
+    auto const path = orv::FileUtils::join(orv::IPlugin::getDelayPluginPath(nullptr), L"prcdelaywriter.dll");
+    auto const entry =
+        std::make_shared<orv::DLLFuncPtrHelper<orvexp::IDelayExporter>>(path.c_str(), "create", "destroy");
+    error = entry->errorText();
+    return entry->isValid() ? std::make_shared<orvexp::DelayExportHelper>(entry) : nullptr;
+}
+
+ExportResult outcome(orvexp::Status status, std::wstring const& name)
+{
+    switch (status) {
+    case orvexp::Status::ok:
+        return {0, L"\"" + name + L"\" was saved."};
+    case orvexp::Status::noLibrary:
+        return {static_cast<int>(status),
+                L"\"" + name + L"\" can't be saved: its exporter isn't installed. Choose another format."};
+    case orvexp::Status::nothingToWrite:
+        return {static_cast<int>(status), L"There is nothing to save. Open a model first."};
+    case orvexp::Status::cannotWrite:
+        break;
+    }
+    return {static_cast<int>(orvexp::Status::cannotWrite),
+            L"\"" + name + L"\" can't be written. Check the folder and the free space, or choose another place."};
+}
+
+} // namespace
+
+ExportResult exportDocument(std::shared_ptr<orv::IDocument> const& document, std::wstring const& path,
+                            orv::IStatusManager* status)
+{
+    auto const name = orv::FileUtils::getStatusFileName(path.c_str());
+    if (!document) {
+        return outcome(orvexp::Status::nothingToWrite, name);
+    }
+    try {
+        if (extensionOf(path) == deferredExtension) {
+            std::wstring error;
+            if (auto const writer = loadDeferred(error)) {
+                return outcome(writer->save(path.c_str(), document, nullptr, status), name);
+            }
+            return {static_cast<int>(orvexp::Status::noLibrary), error};
+        }
+        auto const exporters = loadExporters();
+        if (auto const exporter = exporters->getPlugin(path.c_str())) {
+            return outcome(exporter->save(path.c_str(), document, nullptr, status), name);
+        }
+        return outcome(orvexp::Status::noLibrary, name);
+    } catch (std::exception const&) {
+        return outcome(orvexp::Status::cannotWrite, name);
+    }
+}
+
+std::vector<std::wstring> writableExtensions()
+{
+    std::vector<std::wstring> result;
+    std::wstring error;
+    if (loadDeferred(error)) {
+        result.emplace_back(deferredExtension);
+    }
+    auto const exporters = loadExporters();
+    for (auto const* extension : usualExtensions) {
+        if (exporters->getPlugin((std::wstring(L"model.") + extension).c_str())) {
+            result.emplace_back(extension);
+        }
+    }
+    return result;
+}
+
+} // namespace orvviewer

@@ -1,0 +1,182 @@
+#include "viewer/app/MainWindow.h"
+
+#include "platform/qt/Look.h"
+#include "viewer/app/ModelTree.h"
+#include "viewer/app/ModelView.h"
+#include "viewer/app/StatusLine.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDropEvent>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QSplitter>
+
+#include <utility>
+
+namespace orvviewer
+{
+
+namespace
+{
+
+constexpr int treeWidth = 248;
+constexpr int foldedLimit = 120; ///< a side bar that asks for less is folded to its strip
+
+bool isInput(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+MainWindow::MainWindow()
+    : splitter(new QSplitter(Qt::Horizontal, this)), modelTree(new ModelTree), modelView(new ModelView),
+      statusLine(new StatusLine)
+{
+    setWindowIcon(QIcon(":/icons/orvanta.svg"));
+    splitter->addWidget(modelTree);
+    splitter->addWidget(modelView);
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setHandleWidth(1);
+    splitter->setChildrenCollapsible(false);
+    modelTree->setMinimumWidth(160);
+    setCentralWidget(splitter);
+    setStatusBar(statusLine);
+    setAcceptDrops(true);
+    resize(1440, 900);
+    splitter->setSizes({treeWidth, width() - treeWidth});
+    showModelName({});
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::setRibbon(QWidget* ribbon)
+{
+    setMenuWidget(ribbon);
+}
+
+void MainWindow::setSideBar(QWidget* bar)
+{
+    sideBar = bar;
+    splitter->addWidget(bar);
+    splitter->setStretchFactor(2, 0);
+    bar->installEventFilter(this);
+    followSideBar();
+}
+
+void MainWindow::followSideBar()
+{
+    int const wanted = sideBar->sizeHint().width();
+    bool const isFolded = wanted > 0 && wanted < foldedLimit;
+    sideBar->setMinimumWidth(isFolded ? wanted : orvplatform::measures::sideBarWidth);
+    sideBar->setMaximumWidth(isFolded ? wanted : 2 * orvplatform::measures::sideBarWidth);
+    int const bar = isFolded ? wanted : orvplatform::measures::sideBarWidth;
+    int const left = modelTree->isHidden() ? 0 : modelTree->width();
+    splitter->setSizes({left, std::max(splitter->width() - left - bar, 160), bar});
+}
+
+void MainWindow::showSideBar(bool shown)
+{
+    if (sideBar != nullptr) {
+        sideBar->setVisible(shown);
+    }
+}
+
+bool MainWindow::isSideBarShown() const
+{
+    return sideBar != nullptr && !sideBar->isHidden();
+}
+
+void MainWindow::showTree(bool shown)
+{
+    modelTree->setVisible(shown);
+}
+
+bool MainWindow::isTreeShown() const
+{
+    return !modelTree->isHidden();
+}
+
+void MainWindow::showModelName(QString const& fileName)
+{
+    setWindowTitle(fileName.isEmpty() ? QStringLiteral("Orvanta") : fileName + " - Orvanta");
+}
+
+void MainWindow::block(std::function<void()> stop)
+{
+    stopWork = std::move(stop);
+    qApp->installEventFilter(this);
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+}
+
+void MainWindow::unblock()
+{
+    QApplication::restoreOverrideCursor();
+    qApp->removeEventFilter(this);
+    stopWork = nullptr;
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (stopWork) {
+        stopWork();
+        event->ignore();
+        return;
+    }
+    emit closing();
+    QMainWindow::closeEvent(event);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (stopWork && isInput(event->type())) {
+        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            stopWork();
+        }
+        return true;
+    }
+    if (watched == sideBar && event->type() == QEvent::LayoutRequest) {
+        followSideBar();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    QStringList paths;
+    for (auto const& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            paths << url.toLocalFile();
+        }
+    }
+    event->acceptProposedAction();
+    emit modelView->filesDropped(paths);
+}
+
+} // namespace orvviewer

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include <functional>
+#include <memory>
+
+class QSplitter;
+
+namespace orvviewer
+{
+
+class ModelTree;
+class ModelView;
+class StatusLine;
+
+/// The frame: model tree at the left, view in the middle, side bar at the right, status line below. Ribbon and side bar
+/// are put in by their makers.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    MainWindow();
+    ~MainWindow() override;
+
+    ModelTree& tree() { return *modelTree; }
+    ModelView& view() { return *modelView; }
+    StatusLine& status() { return *statusLine; }
+
+    void setRibbon(QWidget* ribbon);
+    /// Takes the side bar in; it shows at its width of 320 pixels, or as a strip where it is folded.
+    void setSideBar(QWidget* bar);
+    void showSideBar(bool shown);
+    bool isSideBarShown() const;
+    void showTree(bool shown);
+    bool isTreeShown() const;
+    void showModelName(QString const& fileName); ///< empty without a model
+
+    /// While it holds, the user can do nothing here but press Escape, which calls `stop`.
+    void block(std::function<void()> stop);
+    void unblock();
+
+signals:
+    void closing();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void followSideBar();
+
+    QSplitter* splitter;
+    ModelTree* modelTree;
+    ModelView* modelView;
+    StatusLine* statusLine;
+    QWidget* sideBar = nullptr;
+    std::function<void()> stopWork; ///< set while input is blocked
+};
+
+} // namespace orvviewer

@@ -1,0 +1,90 @@
+#include "viewer/app/Program.h"
+
+#include "host/runtime/Runtime.h"
+#include "platform/Process.h"
+#include "platform/qt/Look.h"
+#include "platform/text/Text.h"
+#include "viewer/app/CommandLine.h"
+#include "viewer/app/Headless.h"
+#include "viewer/app/MainWindow.h"
+#include "viewer/app/ViewerSession.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+
+#include <iostream>
+
+namespace orvviewer
+{
+
+namespace
+{
+
+constexpr int usageError = 2;
+
+orvhost::Settings settingsFor(CommandLine const& line)
+{
+    orvhost::Settings settings;
+    settings.dataDirectory = line.dataDirectory;
+    settings.serviceUrl = line.serviceUrl;
+    settings.language = line.language.empty() ? systemLanguage() : line.language;
+    settings.libraryDirectory = QDir(QCoreApplication::applicationDirPath() + "/../lib").absolutePath().toStdWString();
+    return settings;
+}
+
+/// Windows with OpenGL of their own need an X display, also in a session of another kind.
+void choosePlatform(bool isHeadless)
+{
+    if (isHeadless) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") && !qEnvironmentVariableIsEmpty("DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+}
+
+} // namespace
+
+int runProgram(int count, char** arguments)
+{
+    auto const line = readCommandLine(count, arguments);
+    if (!line.error.empty()) {
+        std::cerr << "orvanta: " << orvtext::toUtf8(line.error) << std::endl;
+        return usageError;
+    }
+    if (line.wantsHelp) {
+        std::cout << orvtext::toUtf8(usage());
+        return 0;
+    }
+    if (line.wantsVersion) {
+        std::cout << "orvanta " ORVANTA_VERSION << std::endl;
+        return 0;
+    }
+    bool const hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+    if (!line.isHeadless() && !hasDisplay) {
+        std::cerr << "orvanta: There is no display to open a window on. Start it from a desktop session, or use "
+                     "--export or --screenshot."
+                  << std::endl;
+        return 1;
+    }
+    choosePlatform(line.isHeadless());
+    orvplatform::prepareProcess();
+    QApplication application(count, arguments);
+    QApplication::setApplicationName("Orvanta");
+    QApplication::setApplicationVersion(ORVANTA_VERSION);
+    auto settings = settingsFor(line);
+    if (line.isHeadless()) {
+        orvhost::configure(std::move(settings));
+        return runHeadless(line);
+    }
+    orvplatform::applyLook(application);
+    settings.dpi = orvplatform::logicalDpi();
+    ViewerSession session(std::move(settings));
+    session.window().show();
+    if (!line.file.empty()) {
+        QTimer::singleShot(0, &session.window(), [&] { session.openModel(line.file); });
+    }
+    return QApplication::exec();
+}
+
+} // namespace orvviewer

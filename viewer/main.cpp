@@ -1,0 +1,6 @@
+#include "viewer/app/Program.h"
+
+int main(int count, char** arguments)
+{
+    return orvviewer::runProgram(count, arguments);
+}

@@ -1,0 +1,146 @@
+#include "viewer/plugins/PluginHost.h"
+
+#include "host/orv/FileUtils.h"
+#include "host/orv/IOutlookPane.h"
+#include "viewer/commands/CommandId.h"
+
+#include <afxwin.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+#include <utility>
+
+namespace orvviewer
+{
+
+namespace
+{
+
+constexpr wchar_t const* ownPlugin = L"cloudplugin.dll";
+
+} // namespace
+
+PluginHost::PluginHost(Services initial) : services(std::move(initial)), nextCommand(firstPluginCommand) {}
+
+PluginHost::~PluginHost()
+{
+    for (auto& loaded : plugins) {
+        services.notifier->remove(loaded.plugin);
+        services.barrier->run([&loaded] { loaded.library.reset(); });
+    }
+}
+
+void PluginHost::loadAll(std::wstring const& folder)
+{
+    std::set<std::filesystem::path> others;
+    std::error_code failure;
+    for (auto const& entry : std::filesystem::directory_iterator(folder, failure)) {
+        if (entry.path().extension() == ".so" && entry.path().stem() != std::filesystem::path(ownPlugin).stem()) {
+            others.insert(entry.path());
+        }
+    }
+    load(orv::FileUtils::join(folder, ownPlugin));
+    for (auto const& path : others) {
+        load(path.wstring());
+    }
+}
+
+bool PluginHost::load(std::wstring const& path)
+{
+    Loaded loaded;
+    bool const isMade = services.barrier->run([&] {
+        loaded.library =
+            std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(path.c_str(), "createPlugin", "destroyPlugin");
+    });
+    if (!isMade) {
+        return false;
+    }
+    if (!loaded.library->isValid()) {
+        services.report(loaded.library->errorText());
+        return false;
+    }
+    loaded.plugin = dynamic_cast<orvui::IGUIPlugin*>(loaded.library->get());
+    if (loaded.plugin == nullptr) {
+        services.report(L"The library \"" + orv::FileUtils::getStatusFileName(path.c_str()) +
+                        L"\" is no plug-in for the viewer's windows. Move it out of the folder \"gui\".");
+        return false;
+    }
+    loaded.resources = std::make_shared<PluginResources>(nextCommand, [this](HWND window) { enrol(window); });
+    services.barrier->run([&] { loaded.plugin->setParent(GetModuleHandleW(nullptr)); });
+    services.notifier->add(loaded.plugin, [plugin = loaded.plugin](orv::IHint* hint) { plugin->OnUpdate(hint); });
+    plugins.push_back(std::move(loaded));
+    return true;
+}
+
+void PluginHost::enrol(HWND window)
+{
+    if (auto* pane = dynamic_cast<orv::IOutlookPane*>(CWnd::FromHandlePermanent(window))) {
+        services.notifier->add(pane, [pane](orv::IHint* hint) { pane->OnUpdate(hint); });
+    }
+}
+
+void PluginHost::addToRibbon(HWND ribbonBar)
+{
+    for (auto const& loaded : plugins) {
+        services.barrier->run([&] { loaded.plugin->AddToRibbon(ribbonBar, loaded.resources); });
+    }
+}
+
+void PluginHost::addToSideBar(HWND sideBar)
+{
+    for (auto const& loaded : plugins) {
+        services.barrier->run([&] { loaded.plugin->AddToOutlookBar(sideBar, loaded.resources); });
+    }
+}
+
+void PluginHost::addToOptions(HWND sheet)
+{
+    for (auto const& loaded : plugins) {
+        services.barrier->run([&] { loaded.plugin->AddToPropertySheet(sheet, loaded.resources); });
+    }
+}
+
+void PluginHost::tabActivated(std::wstring const& title)
+{
+    for (auto const& loaded : plugins) {
+        services.barrier->run([&] { loaded.plugin->OnTabActivate(title); });
+    }
+}
+
+PluginHost::Loaded const* PluginHost::ownerOf(unsigned int command, unsigned int& local) const
+{
+    for (auto const& loaded : plugins) {
+        if (auto const number = loaded.resources->localNumber(static_cast<int>(command))) {
+            local = static_cast<unsigned int>(*number);
+            return &loaded;
+        }
+    }
+    return nullptr;
+}
+
+bool PluginHost::owns(unsigned int command) const
+{
+    unsigned int local = 0;
+    return ownerOf(command, local) != nullptr;
+}
+
+bool PluginHost::isEnabled(unsigned int command) const
+{
+    unsigned int local = 0;
+    auto const* owner = ownerOf(command, local);
+    bool enabled = false;
+    return owner != nullptr &&
+           services.barrier->run([&] { owner->plugin->OnUpdateCommand(services.mainWindow, local, &enabled); }) &&
+           enabled;
+}
+
+bool PluginHost::run(unsigned int command)
+{
+    unsigned int local = 0;
+    auto const* owner = ownerOf(command, local);
+    return owner != nullptr &&
+           services.barrier->run([&] { owner->plugin->OnCommand(services.mainWindow, local, services.application); });
+}
+
+} // namespace orvviewer
