@@ -89,6 +89,7 @@ HWND createDialogWindow(const DialogTemplate& source, HWND parent, bool child, c
     window->style = child ? (source.style & ~(WS_POPUP | WS_CAPTION | WS_SYSMENU)) | WS_CHILD : source.style;
     window->exStyle = source.exStyle;
     window->isDialog = true;
+    widget->hide(); // or a child would be shown with its parent
     const QFont font = dialogFont(QString::fromStdWString(source.face.empty() ? L"MS Shell Dlg" : source.face),
                                   source.points > 0 && source.points < 200 ? source.points : 8,
                                   source.weight >= FW_BOLD, source.italic);

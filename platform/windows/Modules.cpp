@@ -106,10 +106,8 @@ bool registerModuleFile(const std::wstring& name, const std::string& file)
     readResources(file, readable);
     if (!readable)
         return false;
-    // A later registration of the same name takes the earlier one's place.
-    for (HMODULE module : registry().list)
-        if (module->name == moduleName(name))
-            module->name.clear();
+    // A later registration of the same name takes the earlier one's place; handles of the earlier one stay good.
+    std::erase_if(registry().list, [&](HMODULE module) { return module->name == moduleName(name); });
     add(nullptr, file, name);
     return true;
 }

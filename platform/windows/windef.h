@@ -62,7 +62,7 @@ using HMENU = struct HMENU__*;
 using HDC = struct HDC__*;
 using HRSRC = struct HRSRC__*;
 using HIMAGELIST = struct _IMAGELIST*;
-using FARPROC = INT_PTR (*)();
+using FARPROC = void (*)(); // cast to the function's own type
 using WNDPROC = LRESULT (*)(HWND, UINT, WPARAM, LPARAM);
 
 inline constexpr BOOL TRUE = 1;

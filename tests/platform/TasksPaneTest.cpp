@@ -1,0 +1,124 @@
+#include "Form.h"
+
+using namespace orvplatform::testing;
+
+namespace
+{
+class Block : public CDialogEx
+{
+public:
+    Block() : CDialogEx(11) {}
+};
+
+class TasksPane : public ::testing::Test
+{
+protected:
+    TasksPane()
+    {
+        registerTestResources();
+        frame.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 320, 400), nullptr, 0);
+        EXPECT_TRUE(static_cast<CDockablePane&>(pane).Create(L"", &frame, CRect(0, 0, 0, 0), FALSE, 202,
+                                                             WS_CHILD | WS_VISIBLE));
+        pane.EnableGroupCollapse(FALSE);
+        pane.MoveWindow(0, -20, 320, 420);
+        for (Block& block : blocks)
+            EXPECT_TRUE(block.Create(11, &pane));
+        frame.ShowWindow(SW_SHOW);
+    }
+    CRect placeOf(CWnd& window)
+    {
+        CRect rect;
+        window.GetWindowRect(rect);
+        pane.ScreenToClient(rect);
+        return rect;
+    }
+
+    CWnd frame;
+    CMFCTasksPane pane;
+    Block blocks[3];
+};
+} // namespace
+
+TEST_F(TasksPane, KeepsItsChildrenHiddenUntilTheyArePlaced)
+{
+    EXPECT_FALSE(blocks[0].IsWindowVisible());
+    const int group = pane.AddGroup(L"Tools", FALSE, TRUE);
+    EXPECT_EQ(group, 0);
+    EXPECT_EQ(pane.AddWindow(group, blocks[0], 100), 0);
+    EXPECT_TRUE(blocks[0].IsWindowVisible());
+    EXPECT_FALSE(blocks[1].IsWindowVisible());
+    EXPECT_EQ(blocks[0].GetParent(), &pane);
+}
+
+TEST_F(TasksPane, StacksGroupsOfTheGivenHeights)
+{
+    pane.AddWindow(pane.AddGroup(L"First", FALSE, TRUE), blocks[0], 100);
+    pane.AddWindow(pane.AddGroup(L"", FALSE, TRUE), blocks[1], 40);
+    EXPECT_EQ(pane.GetGroupCount(), 2);
+    const CRect first = placeOf(blocks[0]);
+    const CRect second = placeOf(blocks[1]);
+    EXPECT_EQ(first.Height(), 100);
+    EXPECT_EQ(second.Height(), 40);
+    EXPECT_GT(second.top, first.bottom);
+    EXPECT_EQ(first.Width(), second.Width());
+    EXPECT_GT(first.Width(), 280);
+    EXPECT_GE(first.top, 20 + 28); // below the caption strip and the title
+    EXPECT_EQ(pane.GetTaskGroup(0)->m_strName, L"First");
+    EXPECT_EQ(pane.GetTaskGroup(0)->m_lstTasks.at(0).m_hwndTask, blocks[0].m_hWnd);
+    EXPECT_EQ(pane.GetTaskGroup(2), nullptr);
+}
+
+TEST_F(TasksPane, LeavesTheWindowsOfRemovedGroups)
+{
+    for (Block& block : blocks)
+        pane.AddWindow(pane.AddGroup(L"x", FALSE, TRUE), block, 50);
+    pane.RemoveAllGroups();
+    EXPECT_EQ(pane.GetGroupCount(), 0);
+    EXPECT_TRUE(IsWindow(blocks[2].m_hWnd));
+    EXPECT_FALSE(blocks[2].IsWindowVisible());
+    pane.AddWindow(pane.AddGroup(L"again", FALSE, TRUE), blocks[2], 50);
+    EXPECT_TRUE(blocks[2].IsWindowVisible());
+}
+
+TEST_F(TasksPane, DestroysWindowsThatWereGivenToIt)
+{
+    auto* own = new Block;
+    ASSERT_TRUE(own->Create(11, &pane));
+    HWND handle = own->m_hWnd;
+    pane.AddWindow(pane.AddGroup(L"x"), handle, 50, TRUE);
+    pane.RemoveGroup(0);
+    EXPECT_FALSE(IsWindow(handle));
+    delete own;
+}
+
+TEST_F(TasksPane, ScrollsWhatDoesNotFit)
+{
+    const CRect before = [&] {
+        pane.AddWindow(pane.AddGroup(L"x", FALSE, TRUE), blocks[0], 100);
+        return placeOf(blocks[0]);
+    }();
+    pane.AddWindow(pane.AddGroup(L"y", FALSE, TRUE), blocks[1], 800);
+    EXPECT_LT(placeOf(blocks[0]).Width(), before.Width()); // the bar takes its room
+    EXPECT_EQ(placeOf(blocks[1]).Height(), 800);
+}
+
+TEST_F(TasksPane, RefusesBadArguments)
+{
+    EXPECT_EQ(pane.AddWindow(5, blocks[0], 10), -1);
+    EXPECT_EQ(pane.AddWindow(pane.AddGroup(L"x"), nullptr, 10), -1);
+    EXPECT_FALSE(pane.SetGroupTextColor(7, 0, 0));
+    EXPECT_TRUE(pane.SetGroupTextColor(0, RGB(0, 0, 0), RGB(0, 0, 0)));
+    EXPECT_FALSE(pane.CollapseGroup(0)); // collapsing is off
+    pane.RemoveGroup(9);
+    EXPECT_EQ(pane.GetGroupCount(), 1);
+}
+
+TEST_F(TasksPane, CollapsesWhereThatIsAllowed)
+{
+    pane.EnableGroupCollapse(TRUE);
+    pane.AddWindow(pane.AddGroup(L"x"), blocks[0], 100);
+    EXPECT_TRUE(pane.CollapseGroup(0));
+    EXPECT_FALSE(blocks[0].IsWindowVisible());
+    pane.EnableGroupCollapse(FALSE); // opens again
+    EXPECT_TRUE(blocks[0].IsWindowVisible());
+}
