@@ -1,6 +1,7 @@
 #include "ui/account/SupportRequest.h"
 #include "ui/UiTest.h"
 #include "ui/account/BuildSettings.h"
+#include "ui/account/CloudLoginDlg.h"
 
 #include <fstream>
 #include <iterator>
@@ -87,6 +88,20 @@ TEST_F(SupportRequestTest, TheMailDescribesTheSystem)
     EXPECT_NE(sent.find("Orvanta Support Request"), std::string::npos);
     EXPECT_NE(sent.find(narrow(buildSettings::supportAddress)), std::string::npos);
     EXPECT_NE(sent.find("Orvanta"), std::string::npos);
+}
+
+TEST_F(SupportRequestTest, TheLinkOfTheLoginDialogStartsTheRequest)
+{
+    using namespace orvplatform::testing;
+    installMailClient();
+    modals.expectModal<CloudLoginDlg>([](CloudLoginDlg& dialog) -> INT_PTR {
+        EXPECT_TRUE(clickLink(dialog, 1037, buildSettings::supportAddress));
+        EXPECT_TRUE(IsWindow(dialog.GetSafeHwnd())); // stays as it was
+        return IDCANCEL;
+    });
+    CloudLoginDlg dialog(scene.document, user, helper);
+    dialog.DoModal();
+    EXPECT_NE(mail().find("Orvanta Support Request"), std::string::npos);
 }
 
 TEST_F(SupportRequestTest, TheApplicationsOwnTextTakesItsPlace)

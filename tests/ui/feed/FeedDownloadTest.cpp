@@ -89,25 +89,25 @@ TEST_F(FeedDownloadTest, EveryKindHasItsNameAndFilter)
 TEST_F(FeedDownloadTest, AnAcceptedPathGoesToTheApplication)
 {
     offer(L"stl");
-    clickAndSave(L"/tmp/out/gearbox.stl");
-    EXPECT_EQ(application->saved, std::vector<std::wstring>{L"/tmp/out/gearbox.stl"});
-    EXPECT_EQ(application->lastText(), orv::FileUtils::getStatusFileName(L"/tmp/out/gearbox.stl") + L" saved");
+    clickAndSave(L"/out/gearbox.stl");
+    EXPECT_EQ(application->saved, std::vector<std::wstring>{L"/out/gearbox.stl"});
+    EXPECT_EQ(application->lastText(), orv::FileUtils::getStatusFileName(L"/out/gearbox.stl") + L" saved");
 }
 
 TEST_F(FeedDownloadTest, AFailedSaveShowsTheNameAlone)
 {
     application->saveStatus = 3;
     offer(L"stl");
-    clickAndSave(L"/tmp/out/gearbox.stl");
-    EXPECT_EQ(application->lastText(), orv::FileUtils::getStatusFileName(L"/tmp/out/gearbox.stl"));
+    clickAndSave(L"/out/gearbox.stl");
+    EXPECT_EQ(application->lastText(), orv::FileUtils::getStatusFileName(L"/out/gearbox.stl"));
 }
 
 TEST_F(FeedDownloadTest, TheOutcomeMayComeAfterTheBlockIsGone)
 {
     block->DestroyWindow();
     int const ok = 0;
-    FeedBlock::onSaved(&ok, L"/tmp/out/gearbox.stl", application.get());
-    EXPECT_EQ(application->lastText(), orv::FileUtils::getStatusFileName(L"/tmp/out/gearbox.stl") + L" saved");
+    FeedBlock::onSaved(&ok, L"/out/gearbox.stl", application.get());
+    EXPECT_EQ(application->lastText(), orv::FileUtils::getStatusFileName(L"/out/gearbox.stl") + L" saved");
 }
 
 TEST_F(FeedDownloadTest, TheReportLevelIsSetBeforeTheDialogOpens)
@@ -129,7 +129,7 @@ TEST_F(FeedDownloadTest, ADocumentWithoutABillOfMaterialsStillOffersEveryOutput)
     scene.document->setSchema(orvsg::SCBom::BOM, nullptr);
     for (wchar_t const* const kind : {L"csv", L"bompdf", L"stl"}) {
         offer(kind);
-        clickAndSave(L"/tmp/out/a");
+        clickAndSave(L"/out/a");
     }
     EXPECT_EQ(application->saved.size(), 3U);
 }
