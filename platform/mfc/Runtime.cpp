@@ -4,6 +4,8 @@
 #include "platform/qt/DialogWindow.h"
 #include "platform/windows/Module.h"
 
+#include <algorithm>
+
 CRuntimeClass* CObject::GetThisClass()
 {
     static CRuntimeClass description{"CObject", static_cast<int>(sizeof(CObject)), nullptr, nullptr};
@@ -108,7 +110,10 @@ void AfxSetResourceHandle(HINSTANCE module)
 }
 HINSTANCE AfxGetResourceHandle()
 {
-    return resourceModule ? resourceModule : AfxGetInstanceHandle();
+    // A library that has been unloaded since takes its resources with it.
+    const auto& modules = orvplatform::loadedModules();
+    const bool isLoaded = std::find(modules.begin(), modules.end(), resourceModule) != modules.end();
+    return isLoaded ? resourceModule : AfxGetInstanceHandle();
 }
 HINSTANCE AfxGetInstanceHandle()
 {

@@ -48,6 +48,7 @@ void restyle(QWidget* widget)
 {
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
+    renewFonts(widget);
     widget->update();
 }
 

@@ -72,6 +72,15 @@ void applyFont(HWND window, HFONT font)
     window->widget->setFont(font->font);
 }
 
+void renewFonts(QWidget* root)
+{
+    if (HWND window = existingHandle(root); window && fonts().contains(window->font))
+        root->setFont(window->font->font);
+    for (QWidget* child : root->findChildren<QWidget*>())
+        if (HWND window = existingHandle(child); window && fonts().contains(window->font))
+            child->setFont(window->font->font);
+}
+
 HBITMAP makeBitmap(QImage image)
 {
     auto* bitmap = new HBITMAP__{std::move(image)};

@@ -10,6 +10,10 @@
 
 #include <vector>
 
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
 struct HFONT__ {
     QFont font;
     bool shared = false; // the system's own: DeleteObject leaves it
@@ -38,6 +42,8 @@ HFONT sharedFont(const QFont& font);
 // Base units of a font, after the documented rule: mean width of the 52 letters, and height.
 SIZE baseUnits(const QFont& font);
 void applyFont(HWND window, HFONT font);
+// Gives a widget and what stands in it their windows' fonts again, which a change of style or parent takes away.
+void renewFonts(QWidget* root);
 
 HBITMAP makeBitmap(QImage image);
 HICON makeIcon(QImage image);

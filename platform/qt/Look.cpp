@@ -38,6 +38,14 @@ QToolButton:pressed, QToolButton:checked { background: @pressed; }
 QToolButton:focus { border-color: @accent; }
 QToolButton:disabled { color: @muted; }
 QToolButton::menu-indicator { image: none; }
+QTabBar::tab { background: transparent; color: @muted; border: none; border-bottom: 2px solid transparent;
+    padding: 5px 12px; }
+QTabBar::tab:hover { color: @text; background: @hover; }
+QTabBar::tab:selected { color: @text; border-bottom-color: @accent; }
+#sheetPages { background: transparent; }
+#sheetPages::item { padding: 6px 8px; border-radius: 4px; color: @text; }
+#sheetPages::item:hover { background: @hover; }
+#sheetPages::item:selected { background: @accent; color: @onAccent; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
 QScrollBar::handle:vertical { background: @border; border-radius: 3px; min-height: 32px; margin: 2px; }
 QScrollBar::handle:vertical:hover { background: @muted; }

@@ -14,6 +14,33 @@ namespace orvplatform
 {
 namespace
 {
+// Small pictures of the pane's own buttons, drawn in the colour of quiet text.
+template <class Draw>
+QIcon drawn(Draw draw)
+{
+    QPixmap picture(measures::smallIcon, measures::smallIcon);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme().mutedText, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    draw(painter);
+    return picture;
+}
+QIcon floatIcon()
+{
+    return drawn([](QPainter& painter) {
+        painter.drawRoundedRect(QRectF(2.5, 5.5, 8, 8), 1.5, 1.5);
+        painter.drawPolyline(QPolygonF({{5.5, 2.5}, {13.5, 2.5}, {13.5, 10.5}}));
+    });
+}
+QIcon foldIcon()
+{
+    return drawn([](QPainter& painter) {
+        painter.drawPolyline(QPolygonF({{4, 4}, {8, 8}, {4, 12}}));
+        painter.drawPolyline(QPolygonF({{9, 4}, {13, 8}, {9, 12}}));
+    });
+}
+
 class TabsWidget;
 
 // The window between a tab and its control. The control fills it.
@@ -44,8 +71,8 @@ public:
         bar.setDrawBase(false);
         bar.setUsesScrollButtons(true);
         bar.setFocusPolicy(Qt::TabFocus);
-        prepare(floatButton, QStyle::SP_TitleBarNormalButton, tr("Show this pane in a window of its own"));
-        prepare(foldButton, QStyle::SP_TitleBarShadeButton, tr("Fold the side bar away"));
+        prepare(floatButton, floatIcon(), tr("Show this pane in a window of its own"));
+        prepare(foldButton, foldIcon(), tr("Fold the side bar away"));
         auto* header = new QHBoxLayout;
         header->setContentsMargins(measures::grid, measures::grid, measures::grid, 0);
         header->setSpacing(0);
@@ -154,9 +181,9 @@ public:
     std::function<void(int)> chosen;
 
 private:
-    static void prepare(QToolButton& button, QStyle::StandardPixmap picture, const QString& tip)
+    static void prepare(QToolButton& button, const QIcon& icon, const QString& tip)
     {
-        button.setIcon(button.style()->standardIcon(picture));
+        button.setIcon(icon);
         button.setToolTip(tip);
         button.setAccessibleName(tip);
         button.setAutoRaise(true);

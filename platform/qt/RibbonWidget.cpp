@@ -23,6 +23,7 @@ public:
         setText(source.text);
         setToolTip(source.toolTip.isEmpty() ? source.text : source.toolTip);
         setAccessibleName(source.text);
+        ensurePolished();
         setLevel(Level::Large);
     }
     void setLevel(Level level)
@@ -37,11 +38,15 @@ public:
                            : level == Level::PicturesOnly ? Qt::ToolButtonIconOnly
                                                           : Qt::ToolButtonTextBesideIcon);
         setMinimumWidth(large ? 56 : 0);
+        // Three small buttons stand where one large button does.
+        setMinimumHeight(large ? 0 : smallHeight);
+        setMaximumHeight(large ? QWIDGETSIZE_MAX : smallHeight);
     }
 
     const UINT id;
 
 private:
+    static constexpr int smallHeight = 20;
     RibbonButton what;
 };
 
@@ -55,9 +60,11 @@ public:
         column->setSpacing(0);
         column->addLayout(&grid, 1);
         grid.setContentsMargins(0, 0, 0, 0);
-        grid.setSpacing(2);
+        grid.setHorizontalSpacing(2);
+        grid.setVerticalSpacing(1);
         auto* title = new QLabel(source.name);
         title->setAlignment(Qt::AlignCenter);
+        title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         QPalette quiet = title->palette();
         quiet.setColor(QPalette::WindowText, theme().mutedText);
         title->setPalette(quiet);

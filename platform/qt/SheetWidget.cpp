@@ -36,6 +36,7 @@ public:
         ok.setProperty("primary", true);
         apply.setEnabled(false);
         all->addLayout(row);
+        titles.setObjectName(QStringLiteral("sheetPages"));
         titles.setFixedWidth(148);
         titles.setFrameShape(QFrame::NoFrame);
         host.setMinimumSize(420, 320);
@@ -142,6 +143,7 @@ void placeSheetPage(HWND sheet, int page, QWidget* content)
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(content);
     }
+    renewFonts(content);
     content->show();
 }
 

@@ -163,7 +163,8 @@ int TasksWidget::layoutWithin(int width)
                 ShowWindow(task.m_hwndTask, SW_HIDE);
                 continue;
             }
-            MoveWindow(task.m_hwndTask, left + 1, y, std::max(inner - 2, 0), task.m_nWindowHeight, TRUE);
+            MoveWindow(task.m_hwndTask, left + measures::grid, y, std::max(inner - 2 * measures::grid, 0),
+                       task.m_nWindowHeight, TRUE);
             ShowWindow(task.m_hwndTask, SW_SHOW);
             y += task.m_nWindowHeight;
         }

@@ -1,4 +1,5 @@
 // Place, visibility, focus and texts of windows.
+#include "platform/qt/Gdi.h"
 #include "platform/qt/Native.h"
 #include "platform/qt/Window.h"
 
@@ -35,6 +36,7 @@ HWND SetParent(HWND window, HWND parent)
     if (isLive(window) && isLive(parent)) {
         const bool hidden = window->widget->isHidden();
         window->widget->setParent(parent->childHost);
+        orvplatform::renewFonts(window->widget);
         window->widget->setVisible(!hidden);
     }
     return earlier;
