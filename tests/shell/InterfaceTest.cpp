@@ -168,6 +168,24 @@ TEST_F(InterfaceTest, TheTabCountsTheEntriesOfTheFeed)
     other.DestroyWindow();
 }
 
+TEST_F(InterfaceTest, TheSideBarTakesThePaneAndAllItHoldsWithIt)
+{
+    signIn();
+    long const before = scene.document.use_count();
+    {
+        LoadedPlugin restored;
+        SideBar bar;
+        EXPECT_TRUE(bar.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 8, WS_CHILD | WS_VISIBLE));
+        restored->AddToOutlookBar(bar.GetSafeHwnd(), resources);
+        auto* const pane = dynamic_cast<orv::IOutlookPane*>(bar.getTabCtrl()->GetTabWnd(0));
+        sendHint(*pane, codes::documentOpened, scene.document);
+        EXPECT_GT(scene.document.use_count(), before + 100); // each block has it
+        bar.DestroyWindow();
+        EXPECT_EQ(scene.document.use_count(), before);
+    }
+    EXPECT_EQ(scene.document.use_count(), before);
+}
+
 TEST_F(InterfaceTest, WithoutADocumentTheOptionsGetNoPage)
 {
     CMFCPropertySheet sheet(L"Options");

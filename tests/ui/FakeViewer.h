@@ -22,14 +22,14 @@ public:
     void notify(orvui::Hint& hint) override
     {
         codes.push_back(hint.getCode());
-        documents.push_back(hint.getDocument());
+        documents.push_back(hint.getDocument().get());
         if (deliver) {
             deliver(&hint);
         }
     }
 
     std::vector<short> codes;
-    std::vector<std::shared_ptr<orv::IDocument>> documents;
+    std::vector<orv::IDocument*> documents; ///< only to be compared
     std::function<void(orv::IHint*)> deliver;
 };
 

@@ -104,7 +104,7 @@ TEST_F(LoginTest, ALoginIsRememberedAndTold)
     EXPECT_EQ(savedSession().name, L"Ann M\u00fcller");
     EXPECT_EQ(application->texts, std::vector<std::wstring>{text(130)});
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::signedIn});
-    EXPECT_EQ(application->notifier->documents[0], scene.document);
+    EXPECT_EQ(application->notifier->documents[0], scene.document.get());
     EXPECT_TRUE(exporter->paths.empty()); // the service has the model
 }
 
@@ -301,6 +301,6 @@ TEST_F(LoginTest, ThePromptOpensTheDialog)
     });
     EXPECT_TRUE(clickButton(*prompt, 270));
     EXPECT_EQ(user->userid, token);
-    EXPECT_EQ(application->notifier->documents.at(0), scene.document);
+    EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     EXPECT_EQ(AfxGetResourceHandle(), ResourceModule::handle()); // stays set
 }

@@ -21,7 +21,7 @@ TEST_F(FeedPaneTest, ActivationLoadsTheFeedInTheServicesOrder)
     EXPECT_EQ(visibleBlocks(), 3);
     EXPECT_EQ(tabTitle(), L"Feeds - 3");
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::feedReloaded});
-    EXPECT_EQ(application->notifier->documents.at(0), scene.document);
+    EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     ASSERT_EQ(network.sent().size(), 2U);
     EXPECT_EQ(network.sent()[0].field("filename"), "gearbox.step");
     EXPECT_EQ(network.sent()[1].field("jobid"), jobIdBytes);
