@@ -189,17 +189,12 @@ bool Driver::clickBlock(std::size_t index)
 
 QString Driver::paneTitle() const
 {
-    CWnd* const toolbar = dialogWith(window(), control::push);
-    // Toolbar, list, pane, frame: the frame's text is the tab's title.
-    CWnd* frame = toolbar;
-    for (int level = 0; level < 3 && frame != nullptr; ++level) {
-        frame = frame->GetParent();
-    }
-    if (frame == nullptr) {
-        return {};
-    }
+    // The nearest window around the pane that has a text is the frame behind the tab, and its text the tab's title.
     CString title;
-    frame->GetWindowTextW(title);
+    for (CWnd* around = dialogWith(window(), control::push); around != nullptr && title.IsEmpty();
+         around = around->GetParent()) {
+        around->GetWindowTextW(title);
+    }
     return QString::fromStdWString(std::wstring(title.GetString()));
 }
 

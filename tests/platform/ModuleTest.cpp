@@ -1,3 +1,4 @@
+#include "afxwin.h"
 #include "platform/Process.h"
 #include "windows.h"
 
@@ -27,6 +28,16 @@ TEST(Module, LoadsALibraryUnderItsOtherName)
     EXPECT_TRUE(FreeLibrary(module));
     EXPECT_FALSE(FreeLibrary(module));
     EXPECT_EQ(GetModuleHandleW(L"platformtestlibrary.dll"), nullptr);
+}
+
+TEST(Module, AnUnloadedLibraryIsNoSourceOfResourcesAnyMore)
+{
+    HMODULE module = LoadLibraryW((folder + L"/platformtestlibrary.dll").c_str());
+    ASSERT_NE(module, nullptr);
+    AfxSetResourceHandle(module);
+    EXPECT_EQ(AfxGetResourceHandle(), module);
+    EXPECT_TRUE(FreeLibrary(module));
+    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle());
 }
 
 TEST(Module, SaysWhyALibraryCannotBeLoaded)
