@@ -10,8 +10,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <unistd.h>
-
 namespace
 {
 
@@ -130,17 +128,17 @@ TEST_F(BadInput, ASessionFileThatIsADirectoryIsNoSession)
     EXPECT_TRUE(QFileInfo(sessionFile() + "/inside").isDir());
 }
 
+// A link to itself can be opened by nobody, not even by root.
 TEST_F(BadInput, AnUnreadableSessionFileIsNoSession)
 {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "skipped: everything is readable for root";
-    }
     ASSERT_NO_FATAL_FAILURE(startService());
-    write(sessionFile(), "ann@example.com\n0123\nAnn\n");
-    QFile::setPermissions(sessionFile(), {});
+    QFileInfo(sessionFile()).dir().mkpath(".");
+    ASSERT_TRUE(QFile::link("temp", sessionFile()));
     auto driver = startViewer();
     ASSERT_TRUE(driver->openModel(sampleModel())) << driver->status();
     EXPECT_TRUE(driver->hasPrompt());
+    ASSERT_TRUE(driver->signIn(email, password));
+    EXPECT_TRUE(driver->hasCommentBox());
 }
 
 TEST_F(BadInput, BinaryNoiseInTheSessionFileHarmsNothing)
