@@ -4,7 +4,6 @@
 #include "host/orvui/COOutlookTabCtrl.h"
 #include "host/orvui/IWView.h"
 #include "host/orvui/OrvantaCategory.h"
-#include "service/CloudHelper.h"
 #include "service/PluginText.h"
 #include "shell/cloudplugin.h"
 #include "ui/ResourceIds.h"

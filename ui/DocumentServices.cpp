@@ -9,6 +9,15 @@
 
 #include <wininet.h>
 
+#include <utility>
+
+void takeDocument(orv::IHint& hint, std::shared_ptr<orv::IDocument>& document)
+{
+    if (auto current = hint.getDocument()) {
+        document = std::move(current);
+    }
+}
+
 std::shared_ptr<orv::SCApplication> applicationOf(std::shared_ptr<orv::IDocument> const& document)
 {
     return orv::recordOf<orv::SCApplication>(document);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/orv/IDocument.h"
+#include "host/orv/IHint.h"
 
 #include <memory>
 #include <string>
@@ -11,6 +11,9 @@ class SCApplication;
 }
 
 /// What windows ask of the open document. An empty document is allowed everywhere.
+
+/// Keeps the hint's document in `document`. A hint without one leaves the document as it is.
+void takeDocument(orv::IHint& hint, std::shared_ptr<orv::IDocument>& document);
 
 /// The document's way to its application, or empty.
 std::shared_ptr<orv::SCApplication> applicationOf(std::shared_ptr<orv::IDocument> const& document);

@@ -118,7 +118,7 @@ TEST_F(CommandsTest, ShareOpensItsDialog)
 TEST_F(CommandsTest, DialogsLeaveTheViewersResourcesInPlace)
 {
     openModel();
-    auto const before = reinterpret_cast<HINSTANCE>(this);
+    HINSTANCE const before = otherModule();
     AfxSetResourceHandle(before);
     expectDialog(L"Login to Orvanta Cloud");
     command(push);

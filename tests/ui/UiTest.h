@@ -82,6 +82,13 @@ protected:
         SessionFile().write(user->username, user->userid, user->name);
     }
 
+    /// A module that isn't the plug-in's, as the viewer's own.
+    static HINSTANCE otherModule()
+    {
+        EXPECT_TRUE(orvplatform::registerModuleFile(L"viewer.dll", ORV_PLUGIN_RESOURCES));
+        return GetModuleHandleW(L"viewer.dll");
+    }
+
     std::wstring text(int id) const { return pluginText(id); }
 
     std::filesystem::path dataDirectory;

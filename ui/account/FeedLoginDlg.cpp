@@ -1,8 +1,8 @@
 #include "ui/account/FeedLoginDlg.h"
 
-#include "service/CloudHelper.h"
 #include "service/PluginText.h"
 #include "ui/DialogTemplate.h"
+#include "ui/DocumentServices.h"
 #include "ui/ResourceIds.h"
 #include "ui/ResourceModule.h"
 #include "ui/account/CloudLoginDlg.h"
@@ -31,9 +31,7 @@ void FeedLoginDlg::OnUpdate(orv::IHint* hint)
     if (hint == nullptr) {
         return;
     }
-    if (auto const current = hint->getDocument()) {
-        document = current;
-    }
+    takeDocument(*hint, document);
 }
 
 void FeedLoginDlg::DoDataExchange(CDataExchange* exchange)

@@ -59,9 +59,7 @@ void AddFeed::OnUpdate(orv::IHint* hint)
     if (hint == nullptr || hint->getCode() != orv::HintCode::documentOpened) {
         return;
     }
-    if (auto const current = hint->getDocument()) {
-        document = current;
-    }
+    takeDocument(*hint, document);
 }
 
 void AddFeed::OnSubmit()

@@ -3,6 +3,7 @@
 #include "feed/Thumbnail.h"
 #include "service/PluginText.h"
 #include "ui/DialogTemplate.h"
+#include "ui/DocumentServices.h"
 #include "ui/ResourceIds.h"
 
 #include <atlimage.h>
@@ -99,9 +100,7 @@ void FeedBlock::OnUpdate(orv::IHint* hint)
     case appearanceChanged:
     case sceneChanged:
     case viewRestored:
-        if (auto const current = hint->getDocument()) {
-            document = current;
-        }
+        takeDocument(*hint, document);
         break;
     default:
         break;

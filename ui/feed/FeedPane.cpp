@@ -6,7 +6,6 @@
 #include "host/orvsg/SCInfo.h"
 #include "host/orvsg/SCSceneTopo.h"
 #include "host/orvsgutils/ResourceLoader.h"
-#include "service/CloudHelper.h"
 #include "service/FeedRequests.h"
 #include "service/JobId.h"
 #include "service/ModelName.h"
@@ -110,9 +109,7 @@ void FeedPane::OnUpdate(orv::IHint* hint)
 
     short const code = hint->getCode();
     if (keepsDocument(code)) {
-        if (auto const current = hint->getDocument()) {
-            document = current;
-        }
+        takeDocument(*hint, document);
         if (orv::recordOf<orvsg::SCSceneTopo>(document)) {
             Invalidate();
         }

@@ -63,9 +63,7 @@ void FeedToolbarDialog::OnUpdate(orv::IHint* hint)
     if (hint == nullptr) {
         return;
     }
-    if (auto const current = hint->getDocument()) {
-        document = current;
-    }
+    takeDocument(*hint, document);
     using namespace orv::HintCode;
     short const code = hint->getCode();
     if (code == documentOpened || code == signedIn) {

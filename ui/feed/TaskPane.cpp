@@ -2,7 +2,6 @@
 
 #include "host/orvsgutils/ResourceLoader.h"
 #include "host/orvui/Hint.h"
-#include "service/CloudHelper.h"
 #include "service/PluginText.h"
 #include "ui/DocumentServices.h"
 #include "ui/ResourceIds.h"
@@ -112,9 +111,7 @@ void CTaskPane::OnUpdate(orv::IHint* hint)
     if (code != documentOpened && code != feedReloaded && code != orv::HintCode::signedIn) {
         return;
     }
-    if (auto const current = hint->getDocument()) {
-        document = current;
-    }
+    takeDocument(*hint, document);
     if (signedIn && !modelPath(document).empty()) {
         addGroup(pluginText(resource::text::addCommentGroup), *addFeed, heights.addComment);
     }

@@ -156,7 +156,8 @@ TEST_F(SettingsTest, AfterALoginThePageStaysAsItWas)
     network.expect("/api/AccountInfo/", R"({"name":"Ann"})");
     AfxSetResourceHandle(ResourceModule::handle());
     run([this](SettingsDlg& page) {
-        HINSTANCE const other = reinterpret_cast<HINSTANCE>(this);
+        HINSTANCE const other = otherModule();
+        ASSERT_NE(other, ResourceModule::handle());
         AfxSetResourceHandle(other);
         modals.expectModal<CloudLoginDlg>([](CloudLoginDlg& dialog) -> INT_PTR {
             EXPECT_EQ(AfxGetResourceHandle(), ResourceModule::handle());
