@@ -4,7 +4,7 @@
 #include "platform/windows/Module.h"
 #include "winuser.h"
 
-#include <cstdlib>
+#include <map>
 
 using orvplatform::ByteReader;
 using orvplatform::Bytes;
@@ -90,5 +90,13 @@ HANDLE LoadImageW(HINSTANCE module, LPCWSTR name, UINT type, int width, int, UIN
 
 HICON LoadIconW(HINSTANCE module, LPCWSTR name)
 {
-    return static_cast<HICON>(LoadImageW(module, name, IMAGE_ICON, 0, 0, LR_DEFAULTSIZE));
+    // Shared icons are the system's: nobody destroys them.
+    static auto& made = *new std::map<const orvplatform::ResourceEntry*, HICON>;
+    const auto* group = name ? orvplatform::findResource(module, RT_GROUP_ICON, name, 0) : nullptr;
+    if (!group)
+        return nullptr;
+    HICON& icon = made[group];
+    if (!icon)
+        icon = static_cast<HICON>(LoadImageW(module, name, IMAGE_ICON, 0, 0, LR_DEFAULTSIZE));
+    return icon;
 }

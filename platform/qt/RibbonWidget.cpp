@@ -62,6 +62,7 @@ public:
         grid.setContentsMargins(0, 0, 0, 0);
         grid.setHorizontalSpacing(2);
         grid.setVerticalSpacing(1);
+        grid.setRowStretch(3, 1); // takes what few buttons leave, so that the titles stand in one line
         auto* title = new QLabel(source.name);
         title->setAlignment(Qt::AlignCenter);
         title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -226,7 +227,7 @@ public:
                 guarded([&] {
                     if (QMenu* menu = hooks.menuOf(button->id)) {
                         button->setMenu(menu);
-                        button->setPopupMode(QToolButton::MenuButtonPopup);
+                        button->setPopupMode(QToolButton::InstantPopup);
                     }
                 });
             }

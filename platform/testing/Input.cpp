@@ -10,6 +10,15 @@
 
 #include <QtWidgets>
 
+#ifdef __SANITIZE_ADDRESS__
+// The system's font library keeps a block for the life of the process.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libfontconfig\n";
+}
+#endif
+
 namespace orvplatform::testing
 {
 namespace

@@ -91,7 +91,7 @@ int ReleaseDC(HWND window, HDC context);
 BOOL MapDialogRect(HWND dialog, LPRECT rect);
 
 // Pictures from resources; the size asked for picks the best of an icon group (0: the system's own).
-HICON LoadIconW(HINSTANCE module, LPCWSTR name);
+HICON LoadIconW(HINSTANCE module, LPCWSTR name); // shared: the same at every call, not to be destroyed
 HANDLE LoadImageW(HINSTANCE module, LPCWSTR name, UINT type, int width, int height, UINT flags); // IMAGE_ICON
 BOOL DestroyIcon(HICON icon);
 int GetSystemMetrics(int index); // SM_CXICON, SM_CYICON, SM_CXSMICON, SM_CYSMICON

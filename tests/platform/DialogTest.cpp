@@ -1,5 +1,9 @@
 #include "FormMaps.h"
 
+#include <QApplication>
+#include <QFileDialog>
+#include <QTemporaryDir>
+
 #include <stdexcept>
 
 using namespace orvplatform::testing;
@@ -298,4 +302,56 @@ TEST(DialogLoop, WaitsForTheUserWithoutAScript)
     EXPECT_EQ(form.DoModal(), 12);
     order += "after DoModal";
     EXPECT_EQ(order, "after end, after DoModal");
+}
+
+TEST(DialogLoop, AsksForAFileWithTheGivenFilterAndExtension)
+{
+    registerTestResources();
+    QTemporaryDir folder;
+    struct User : CWnd {
+        std::function<void(QFileDialog&)> act;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_USER) {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                if (dialog)
+                    act(*dialog);
+                else
+                    PostMessage(WM_USER);
+            }
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } user;
+    user.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0);
+    const std::wstring directory = folder.path().toStdWString();
+    const auto ask = [&](std::function<void(QFileDialog&)> act, CFileDialog& dialog) {
+        user.act = std::move(act);
+        dialog.m_ofn.lpstrInitialDir = directory.c_str();
+        user.PostMessage(WM_USER);
+        return dialog.DoModal();
+    };
+
+    CFileDialog save(FALSE, L"stl", L"bracket.stl", 6, L"STL (*.stl)|*.stl||");
+    EXPECT_EQ(ask(
+                  [](QFileDialog& dialog) {
+                      EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+                      EXPECT_EQ(dialog.nameFilters(), QStringList{"STL (*.stl)"});
+                      EXPECT_EQ(dialog.selectedFiles().value(0).section('/', -1), "bracket.stl");
+                      EXPECT_FALSE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+                      dialog.selectFile("other");
+                      static_cast<QDialog&>(dialog).accept();
+                  },
+                  save),
+              IDOK);
+    EXPECT_EQ(save.GetPathName(), (directory + L"/other.stl").c_str());
+
+    CFileDialog cancelled(FALSE, L"xyz", L"part. ", OFN_HIDEREADONLY, L"");
+    EXPECT_EQ(ask(
+                  [](QFileDialog& dialog) {
+                      EXPECT_TRUE(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+                      dialog.reject();
+                  },
+                  cancelled),
+              IDCANCEL);
+    EXPECT_EQ(cancelled.GetPathName(), L"part. ");
 }

@@ -121,6 +121,7 @@ TEST_F(Picture, IsChosenFromAnIconGroupBySize)
         DestroyIcon(icon);
     }
     EXPECT_NE(LoadIconW(module, MAKEINTRESOURCEW(7)), nullptr);
+    EXPECT_EQ(LoadIconW(module, MAKEINTRESOURCEW(7)), LoadIconW(module, MAKEINTRESOURCEW(7)));
     EXPECT_EQ(LoadIconW(module, MAKEINTRESOURCEW(70)), nullptr);
     EXPECT_EQ(LoadImageW(module, MAKEINTRESOURCEW(7), IMAGE_BITMAP, 16, 16, 0), nullptr);
 }
