@@ -5,6 +5,8 @@
 #include "winuser.h"
 
 #include <map>
+#include <string>
+#include <utility>
 
 using orvplatform::ByteReader;
 using orvplatform::Bytes;
@@ -90,12 +92,13 @@ HANDLE LoadImageW(HINSTANCE module, LPCWSTR name, UINT type, int width, int, UIN
 
 HICON LoadIconW(HINSTANCE module, LPCWSTR name)
 {
-    // Shared icons are the system's: nobody destroys them.
-    static auto& made = *new std::map<const orvplatform::ResourceEntry*, HICON>;
+    // Shared icons are the system's: nobody destroys them, and they outlive their module.
+    static auto& made = *new std::map<std::pair<std::string, std::wstring>, HICON>;
     const auto* group = name ? orvplatform::findResource(module, RT_GROUP_ICON, name, 0) : nullptr;
     if (!group)
         return nullptr;
-    HICON& icon = made[group];
+    const std::string& file = (module ? module : GetModuleHandleW(nullptr))->file;
+    HICON& icon = made[{file, std::to_wstring(group->name.number) + group->name.text}];
     if (!icon)
         icon = static_cast<HICON>(LoadImageW(module, name, IMAGE_ICON, 0, 0, LR_DEFAULTSIZE));
     return icon;
