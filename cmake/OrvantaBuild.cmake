@@ -2,7 +2,8 @@
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-  set(launcher ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+  set(launcher ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_NOHASHDIR=1 CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}
+    ${CCACHE_PROGRAM})
   set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
   set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
 endif()
