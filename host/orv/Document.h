@@ -19,7 +19,14 @@ public:
     }
 
     /// An empty record removes the key.
-    void setSchema(short key, std::shared_ptr<orvsg::Schema> record) { records[key] = std::move(record); }
+    void setSchema(short key, std::shared_ptr<orvsg::Schema> record)
+    {
+        if (record) {
+            records[key] = std::move(record);
+        } else {
+            records.erase(key);
+        }
+    }
 
 private:
     std::map<short, std::shared_ptr<orvsg::Schema>> records;

@@ -11,12 +11,12 @@ class FilePath
 public:
     explicit FilePath(wchar_t const* path);
 
-    std::wstring const& getFName() const
-    {
-        return name;
-    } ///< without folder and extension: "part.v2" of "/a/part.v2.step"
-    std::wstring const& getExt() const { return extension; } ///< from the last dot on, ".step"; empty without one
-    std::wstring const& getFolder() const { return folder; } ///< with its closing separator; empty for a bare name
+    /// Without folder and extension: "part.v2" of "/a/part.v2.step".
+    std::wstring const& getFName() const { return name; }
+    /// From the last dot on: ".step"; empty without one.
+    std::wstring const& getExt() const { return extension; }
+    /// With its closing separator; empty for a bare name.
+    std::wstring const& getFolder() const { return folder; }
 
 private:
     std::wstring folder;

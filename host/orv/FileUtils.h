@@ -9,11 +9,12 @@ namespace orv
 class FileUtils
 {
 public:
-    static std::wstring getTempPath(); ///< the temporary directory of this run, with a closing separator; exists
-    static bool
-    getAppDataPath(std::wstring& path); ///< the user's application data, no closing separator; exists when true
-    static std::wstring
-    getStatusFileName(wchar_t const* path); ///< the name under which a saved file is reported: name and extension
+    /// The temporary directory of this run, with a closing separator; it exists.
+    static std::wstring getTempPath();
+    /// The user's application data, without a closing separator; it exists where the answer is true.
+    static bool getAppDataPath(std::wstring& path);
+    /// The name under which a saved file is reported: name and extension.
+    static std::wstring getStatusFileName(wchar_t const* path);
 
     /// The one way to join a directory and a name: exactly one separator stands between them.
     static std::wstring join(std::wstring const& directory, std::wstring const& name);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/orv/GUID.h"
-#include "host/orv/IPreferenceUI.h"
+#include "host/orv/IPreferencesRegistry.h"
 #include "host/orv/Preferences.h"
 
 #include <windows.h>

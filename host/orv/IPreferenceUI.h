@@ -10,11 +10,4 @@ public:
     virtual ~IPreferenceUI() = default;
 };
 
-/// Where plug-ins may keep settings with the viewer.
-class IPreferencesRegistry
-{
-public:
-    virtual ~IPreferencesRegistry() = default;
-};
-
 } // namespace orv

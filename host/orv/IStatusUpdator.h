@@ -10,9 +10,10 @@ namespace orv
 class IStatusUpdator
 {
 public:
-    virtual void updateResponse(int kind,
-                                std::wstring const& text) = 0;     ///< once, before a successful operation returns
-    virtual void updateProgress(int kind, int const& percent) = 0; ///< 0 to 100, during a transfer
+    /// Called once, before a successful operation returns.
+    virtual void updateResponse(int kind, std::wstring const& text) = 0;
+    /// Called during a transfer; 0 to 100.
+    virtual void updateProgress(int kind, int const& percent) = 0;
 
 protected:
     ~IStatusUpdator() = default;

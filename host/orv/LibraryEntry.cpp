@@ -1,4 +1,4 @@
-#include "host/orv/DLLFuncPtrHelper.h"
+#include "host/orv/LibraryEntry.h"
 
 #include "host/orv/FileUtils.h"
 #include "host/runtime/Files.h"

@@ -1,20 +1,13 @@
 #pragma once
 
 #include "host/orv/IApplication.h"
+#include "host/orv/ISupportText.h"
 #include "host/orvsg/Schema.h"
 
 #include <memory>
 
 namespace orv
 {
-
-/// A text for support mails that an application supplies itself.
-class ISupportText
-{
-public:
-    virtual ~ISupportText() = default;
-    virtual wchar_t const* text() = 0;
-};
 
 /// The way from a document to its application, key 19. Present in every document that the viewer hands out.
 class SCApplication : public orvsg::Schema

@@ -5,7 +5,7 @@
 namespace orvsg
 {
 
-/// Product manufacturing information, key 3. The importers read none, so it carries nothing yet that adds to a box.
+/// Product manufacturing information, key 3. The importers read none, so nothing of it adds to a box.
 class SCPmi : public Schema
 {
 public:

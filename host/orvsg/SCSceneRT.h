@@ -14,10 +14,12 @@ class SCSceneRT : public Schema
 public:
     static constexpr short key = 1;
 
-    std::vector<bool> visibility; ///< indexed by node; a node shows if its own bit and all its ancestors' are set
-    Container<int, int>
-        transparentNodes;             ///< nodes in the order in which they were made transparent; -1 stands for no node
-    Container<int, int> coloredNodes; ///< nodes in the order in which they were coloured; -1 stands for no node
+    /// Indexed by node; a node shows if its own bit and all its ancestors' are set.
+    std::vector<bool> visibility;
+    /// Nodes in the order in which they were made transparent; -1 stands for no node.
+    Container<int, int> transparentNodes;
+    /// Nodes in the order in which they were coloured; -1 stands for no node.
+    Container<int, int> coloredNodes;
 };
 
 } // namespace orvsg
