@@ -11,7 +11,7 @@ GetAPI::~GetAPI() = default;
 
 ErrorCode GetAPI::get(OmniInfo const& request, IStatusUpdator* updater)
 {
-    return orvweb::exchange(root, request, orvweb::HttpRequest::Kind::get, updater);
+    return orvweb::exchange("GetAPI::get", root, request, orvweb::HttpRequest::Kind::get, updater);
 }
 
 } // namespace orv

@@ -11,7 +11,7 @@ PostAPI::~PostAPI() = default;
 
 ErrorCode PostAPI::post(OmniInfo const& request, IStatusUpdator* updater)
 {
-    return orvweb::exchange(root, request, orvweb::HttpRequest::Kind::form, updater);
+    return orvweb::exchange("PostAPI::post", root, request, orvweb::HttpRequest::Kind::form, updater);
 }
 
 } // namespace orv

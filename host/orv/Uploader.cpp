@@ -11,7 +11,7 @@ Uploader::~Uploader() = default;
 
 ErrorCode Uploader::uploadFile(OmniInfo const& request, IStatusUpdator* updater)
 {
-    return orvweb::exchange(root, request, orvweb::HttpRequest::Kind::multipart, updater);
+    return orvweb::exchange("Uploader::uploadFile", root, request, orvweb::HttpRequest::Kind::multipart, updater);
 }
 
 } // namespace orv

@@ -3,6 +3,7 @@
 #include "host/orv/IStatusUpdator.h"
 #include "host/orvweb/CurlTransport.h"
 #include "host/orvweb/RequestBuilder.h"
+#include "host/orvweb/RequestObserver.h"
 #include "platform/text/Text.h"
 
 #include <memory>
@@ -30,16 +31,30 @@ std::shared_ptr<ITransport> currentTransport()
     return replacement() ? replacement() : own;
 }
 
+RequestObserver& currentObserver()
+{
+    static RequestObserver observer;
+    return observer;
+}
+
 } // namespace
+
+RequestObserver setRequestObserver(RequestObserver observer)
+{
+    return std::exchange(currentObserver(), std::move(observer));
+}
 
 std::shared_ptr<ITransport> setTransport(std::shared_ptr<ITransport> transport)
 {
     return std::exchange(replacement(), std::move(transport));
 }
 
-orv::ErrorCode exchange(std::wstring const& root, orv::OmniInfo const& record, HttpRequest::Kind kind,
-                        orv::IStatusUpdator* updater)
+orv::ErrorCode exchange(char const* operation, std::wstring const& root, orv::OmniInfo const& record,
+                        HttpRequest::Kind kind, orv::IStatusUpdator* updater)
 {
+    if (currentObserver()) {
+        currentObserver()({operation, root, record});
+    }
     auto const request = buildRequest(root, record, kind);
     if (!request) {
         return orv::ErrorCode::invalidRequest;
