@@ -40,13 +40,11 @@ void cloudplugin::OnCommand(HWND, unsigned int command, std::shared_ptr<orv::IAp
 /// Goes by the session file: an empty one counts as signed in, and the service is then asked with empty names.
 void cloudplugin::push()
 {
-    SessionFile const session;
-    if (!session.canOpen()) {
+    if (!SessionFile().readTwo(*userInfo)) {
         CloudLoginDlg dialog(document, application, userInfo, helper);
         dialog.DoModal(); // pushes by itself
         return;
     }
-    session.readTwo(*userInfo);
     if (settings->uploadDirect) {
         helper->pushDirect(document, userInfo);
     } else {

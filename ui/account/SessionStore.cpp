@@ -10,11 +10,13 @@
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
+#include <system_error>
 
 namespace
 {
 
-/// Every reader tests whether the file opens, closes it, and opens it a second time for the lines.
+/// Every reader tests whether the file opens, closes it, and opens it a second time for the lines. What the test found
+/// is the answer: a file that goes in between leaves the lines alone.
 bool readLines(SessionFile const& session, std::initializer_list<std::wstring*> lines)
 {
     if (!session.canOpen()) {
@@ -23,11 +25,10 @@ bool readLines(SessionFile const& session, std::initializer_list<std::wstring*> 
     std::wifstream file;
     file.imbue(byteLocale());
     file.open(std::filesystem::path(session.path()));
-    if (!file.is_open()) {
-        return false;
-    }
-    for (std::wstring* const line : lines) {
-        std::getline(file, *line);
+    if (file.is_open()) {
+        for (std::wstring* const line : lines) {
+            std::getline(file, *line);
+        }
     }
     return true;
 }
@@ -57,7 +58,10 @@ SessionFile::SessionFile()
 
 bool SessionFile::canOpen() const
 {
-    return std::wifstream(std::filesystem::path(filePath)).is_open();
+    // A stream opens a directory as well, and waits at a pipe.
+    std::filesystem::path const file(filePath);
+    std::error_code missing;
+    return std::filesystem::is_regular_file(file, missing) && std::wifstream(file).is_open();
 }
 
 bool SessionFile::read(orvweb::UserInfo& user) const

@@ -15,10 +15,11 @@ public:
     std::wstring const& path() const { return filePath; }
     std::wstring const& directory() const { return folder; } ///< without a closing separator
 
-    bool canOpen() const; ///< one open and one close; nothing is read
+    /// One open and one close; nothing is read. A directory of that name is no session.
+    bool canOpen() const;
 
-    /// The reads give false, and change nothing, where the file can't be opened. The first line that is missing empties
-    /// its field and leaves the fields behind it alone.
+    /// The reads ask canOpen first, and give false and change nothing where it says no; then they open the file again
+    /// for the lines. The first line that is missing empties its field and leaves the fields behind it alone.
     bool read(orvweb::UserInfo& user) const;    ///< username, userid, name
     bool readTwo(orvweb::UserInfo& user) const; ///< username, userid
     bool readFirst(std::wstring& username) const;

@@ -1,11 +1,13 @@
 #include "ui/account/SessionStore.h"
 
+#include "support/FileWatch.h"
 #include "support/PluginEnvironment.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 using orvtest::contentOf;
 using orvtest::writeFile;
@@ -85,6 +87,35 @@ TEST_F(SessionStore, ThatIsMissingChangesNothing)
     std::wstring name = L"before";
     EXPECT_FALSE(SessionFile().readFirst(name));
     EXPECT_EQ(name, L"before");
+}
+
+TEST_F(SessionStore, ThatIsADirectoryIsNone)
+{
+    std::filesystem::create_directories(environment.session() / "inside");
+    EXPECT_FALSE(SessionFile().canOpen());
+    EXPECT_FALSE(SessionFile().read(user));
+    EXPECT_FALSE(SessionFile().readTwo(user));
+    EXPECT_FALSE(SessionFile().readFirst(user.name));
+    EXPECT_EQ(user.username, L"before");
+    EXPECT_EQ(user.userid, L"before");
+    EXPECT_EQ(user.name, L"before");
+}
+
+TEST_F(SessionStore, IsOpenedOnceToBeTestedAndOnceMoreToBeRead)
+{
+    using Events = std::vector<std::string>;
+    SessionFile const session;
+    session.write(L"ada@example.com", token, L"Ada");
+    orvtest::FileWatch watch(environment.session());
+    EXPECT_TRUE(session.canOpen());
+    EXPECT_EQ(watch.events(), (Events{"open", "close"}));
+    Events const reading{"open", "close", "open", "read", "close"};
+    session.read(user);
+    EXPECT_EQ(watch.events(), reading);
+    session.readTwo(user);
+    EXPECT_EQ(watch.events(), reading);
+    session.readFirst(user.name);
+    EXPECT_EQ(watch.events(), reading);
 }
 
 TEST_F(SessionStore, ThatIsEmptyOpensAndEmptiesTheFirstFieldAlone)
