@@ -8,8 +8,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/utsname.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -17,6 +20,29 @@
 using orvweb::HttpRequest;
 using orvweb::HttpResponse;
 using testing::ElementsAreArray;
+
+namespace
+{
+
+/// What the system calls this computer; empty stands for its own answer.
+std::string computerName;
+
+} // namespace
+
+/// Takes the place of the system's function throughout this program.
+extern "C" int gethostname(char* buffer, std::size_t size) noexcept
+{
+    utsname own{};
+    if (computerName.empty() && uname(&own) != 0) {
+        return -1;
+    }
+    std::string const name = computerName.empty() ? own.nodename : computerName;
+    if (name.size() >= size) {
+        return -1;
+    }
+    std::copy_n(name.c_str(), name.size() + 1, buffer);
+    return 0;
+}
 
 namespace
 {
@@ -31,6 +57,8 @@ HttpResponse answer(std::string body)
 class Login : public testing::Test
 {
 protected:
+    ~Login() override { computerName.clear(); }
+
     std::string apiId() const { return orvtext::toUtf8(orvweb::APIUtils::apiId()); }
     std::string apiKey() const { return orvtext::toUtf8(orvweb::APIUtils::apiKey()); }
 
@@ -40,6 +68,7 @@ protected:
 
 TEST_F(Login, SendsThePasswordAndThenTheDevice)
 {
+    computerName = "bench-7";
     network.expect("/api/Login/", token);
     network.expect("/api/InstalledDevice/", "ok");
     EXPECT_EQ(CloudHelper::login(L"ada@example.com", L"p+w d"), orvtext::fromUtf8(token));
@@ -51,14 +80,22 @@ TEST_F(Login, SendsThePasswordAndThenTheDevice)
     EXPECT_EQ(login.header("X-Api-Key"), apiKey());
     EXPECT_EQ(login.header("Authorization"), "");
 
-    char host[256] = {};
-    ASSERT_EQ(gethostname(host, sizeof host - 1), 0);
     auto const& device = network.sent()[1];
     EXPECT_EQ(device.request.kind, HttpRequest::Kind::form);
-    EXPECT_THAT(device.request.fields,
-                ElementsAreArray(std::vector<HttpRequest::Field>{
-                    {"name", apiId()}, {"username", "ada@example.com"}, {"devicename", host}, {"devicetype", "pc"}}));
+    EXPECT_THAT(
+        device.request.fields,
+        ElementsAreArray(std::vector<HttpRequest::Field>{
+            {"name", apiId()}, {"username", "ada@example.com"}, {"devicename", computerName}, {"devicetype", "pc"}}));
     EXPECT_EQ(device.header("X-Api-Key"), apiKey());
+}
+
+TEST_F(Login, NamesTheComputerAsItIs)
+{
+    computerName = "Workstation-of-ADA." + std::string(43, 'x'); // about the longest that the system knows
+    network.expect("/api/Login/", token);
+    network.expect("/api/InstalledDevice/", "ok");
+    CloudHelper::login(L"ada@example.com", L"secret");
+    EXPECT_EQ(network.last().field("devicename"), computerName);
 }
 
 TEST_F(Login, EndsTheSessionBeforeTheServiceIsAskedAndStartsTheNewOneBeforeTheDevice)

@@ -37,6 +37,20 @@ TEST(TransferProgress, TakesTheTextThatItHoldsAlready)
     EXPECT_EQ(updator.getResponse(), L"answer");
 }
 
+TEST(TransferProgress, TakesItsOwnText)
+{
+    StatusUpdator updator;
+    std::wstring const answer(1000, L'a'); // too long to lie in the object itself
+    updator.updateResponse(1, answer);
+    // The text is the one field, behind the table of operations.
+    static_assert(sizeof updator == sizeof(void*) + sizeof(std::wstring));
+    auto const* const place = reinterpret_cast<char const*>(&updator) + sizeof(void*);
+    auto const& own = *reinterpret_cast<std::wstring const*>(place);
+    ASSERT_EQ(own, answer);
+    updator.updateResponse(1, own);
+    EXPECT_EQ(updator.getResponse(), answer);
+}
+
 TEST(TransferProgress, ShowsNothingOfAPercentage)
 {
     StatusUpdator updator;
