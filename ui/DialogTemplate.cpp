@@ -5,7 +5,7 @@
 #include <array>
 #include <utility>
 
-UINT DialogTemplate::forCurrentLanguage() const
+UINT DialogTemplate::forLanguage(std::wstring_view code) const
 {
     std::array<std::pair<wchar_t const*, UINT>, 7> const choices = {{{L"fr", french},
                                                                      {L"de", german},
@@ -14,11 +14,15 @@ UINT DialogTemplate::forCurrentLanguage() const
                                                                      {L"zh", chinese},
                                                                      {L"es", spanish},
                                                                      {L"pt", portuguese}}};
-    std::wstring const language = orvsgutils::ResourceLoader::getCurrentLocaleID();
-    for (auto const& [code, id] : choices) {
-        if (language == code) {
+    for (auto const& [language, id] : choices) {
+        if (code == language) {
             return id;
         }
     }
     return other;
+}
+
+UINT DialogTemplate::forCurrentLanguage() const
+{
+    return forLanguage(orvsgutils::ResourceLoader::getCurrentLocaleID());
 }

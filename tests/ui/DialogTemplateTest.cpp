@@ -1,3 +1,4 @@
+#include "ui/DialogTemplate.h"
 #include "ui/UiTest.h"
 #include "ui/account/CloudLoginDlg.h"
 #include "ui/account/FeedLoginDlg.h"
@@ -46,5 +47,17 @@ TEST_F(DialogTemplateTest, AnyOtherCodeGivesEnglish)
     for (wchar_t const* const language : {L"it", L"nl", L""}) {
         configure(language);
         EXPECT_EQ(CloudLoginDlg::templateId(), 101U);
+    }
+}
+
+TEST(DialogTemplate, ComparesTheWholeCode)
+{
+    DialogTemplate const ids{0, 1, 2, 3, 4, 5, 6, 7};
+    std::array<wchar_t const*, 8> const listed = {L"en", L"fr", L"de", L"ja", L"ko", L"zh", L"es", L"pt"};
+    for (UINT i = 0; i < listed.size(); ++i) {
+        EXPECT_EQ(ids.forLanguage(listed[i]), i);
+    }
+    for (wchar_t const* const code : {L"de-AT", L"de_DE", L"DE", L"De", L"d", L"deu", L"fra", L"it", L"zh-CN", L""}) {
+        EXPECT_EQ(ids.forLanguage(code), 0U) << code;
     }
 }
