@@ -44,12 +44,11 @@ CMFCRibbonButton* makeButton(int commandId, int label, int smallImage, int large
     return button;
 }
 
-/// The category to stand in: the active one, else the second.
-OrvantaCategory* chooseCategory(CMFCRibbonBar& ribbon)
+/// Index of the category to stand in: the active one, else the second.
+int chooseCategory(CMFCRibbonBar& ribbon)
 {
     CMFCRibbonCategory* const active = ribbon.GetActiveCategory();
-    int const index = active != nullptr ? ribbon.GetCategoryIndex(active) : 1;
-    return DYNAMIC_DOWNCAST(OrvantaCategory, ribbon.GetCategory(index));
+    return active != nullptr ? ribbon.GetCategoryIndex(active) : 1;
 }
 
 /// One picture in a list of its own.
@@ -70,7 +69,10 @@ void cloudplugin::AddToRibbon(HWND ribbonBar, std::shared_ptr<orvui::IResourceMa
     if (ribbon == nullptr || !resources) {
         return;
     }
-    OrvantaCategory* const category = chooseCategory(*ribbon);
+    int const index = chooseCategory(*ribbon);
+    // Fetched and applied to nothing: the category goes by its index alone. That is meant.
+    [[maybe_unused]] std::wstring const categoryTitle = pluginText(resource::text::tools);
+    auto* const category = DYNAMIC_DOWNCAST(OrvantaCategory, ribbon->GetCategory(index));
     if (category == nullptr) {
         return;
     }
@@ -80,6 +82,9 @@ void cloudplugin::AddToRibbon(HWND ribbonBar, std::shared_ptr<orvui::IResourceMa
     int const smallPush = small.GetCount();
     large.Load(largePushImage(), nullptr, TRUE);
     small.Load(smallPushImage(), nullptr, TRUE);
+    // The English label goes unused; that is meant.
+    [[maybe_unused]] std::wstring const englishLabel =
+        orvsgutils::ResourceLoader::getEngString(pluginLibrary, resource::text::pushToCloud);
     int const pushId = resources->getCommandId(static_cast<int>(pushCommand));
     CMFCRibbonButton* const push = makeButton(pushId, resource::text::pushToCloud, smallPush, largePush);
 
@@ -104,14 +109,16 @@ void cloudplugin::AddToOutlookBar(HWND outlookBar, std::shared_ptr<orvui::IResou
 {
     ResourceModule const module;
     auto* const bar = dynamic_cast<orvui::IWView<CMFCOutlookBar>*>(CWnd::FromHandle(outlookBar));
-    if (bar == nullptr || !resources || paneHasWindow) {
+    if (bar == nullptr || !resources) {
         return;
     }
     outlookTab = bar->getTabCtrl();
-    if (outlookTab == nullptr) {
+    if (outlookTab == nullptr || paneHasWindow) { // the pane stands in one side bar; it can't be made a second time
         return;
     }
     int const imageIndex = outlookTab->GetImageListCount();
+    // Asked for and unused: the one index stands for both lists. That is meant.
+    [[maybe_unused]] int const toolbarImageIndex = outlookTab->GetToolbarImageListCount();
     using orvsgutils::ResourceLoader;
     orvsgutils::PIXELS const& pixels = ResourceLoader::m_Pixel;
     int const side = static_cast<int>(pixels.smallWidth * 1.5);

@@ -18,10 +18,6 @@ cloudplugin::cloudplugin()
 
 cloudplugin::~cloudplugin()
 {
-    // A pane with a window goes with the side bar, which may be gone already.
-    if (!paneHasWindow) {
-        delete feedPane;
-    }
     exporter.reset();
     userInfo.reset();
     settingsPage.reset();
@@ -30,6 +26,11 @@ cloudplugin::~cloudplugin()
     reserved.reset();
     application.reset();
     document.reset();
+    // A pane with a window belongs to the side bar, which may be gone already; one that never got a window has nobody
+    // else to delete it.
+    if (!paneHasWindow) {
+        delete feedPane;
+    }
 }
 
 wchar_t const* cloudplugin::getName()

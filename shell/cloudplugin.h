@@ -9,7 +9,6 @@
 
 #include <memory>
 
-class CMFCRibbonCategory;
 class COOutlookTabCtrl;
 class CloudHelper;
 class FeedPane;
@@ -27,6 +26,7 @@ public:
 
     /// Restores the session. Touches neither the network nor a window.
     cloudplugin();
+    /// Releases what it shares from the exporter up to the document. The session file stays, and with it the session.
     ~cloudplugin() override;
 
     wchar_t const* getName() override;

@@ -19,6 +19,7 @@ inline constexpr int commentAdded = 109;
 inline constexpr int commentEmpty = 110;
 inline constexpr int noConnection = 111;
 inline constexpr int panelTitle = 112;
+inline constexpr int tools = 113; ///< fetched, applied to nothing
 inline constexpr int savedSuffix = 118;
 inline constexpr int pushToCloud = 119;
 inline constexpr int loggedInAs = 120;

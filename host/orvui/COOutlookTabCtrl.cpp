@@ -21,3 +21,8 @@ void COOutlookTabCtrl::AddToolbarImageList(_IMAGELIST* list, int size, unsigned 
 {
     CMFCOutlookBarTabCtrl::AddToolbarImageList(list, size, static_cast<COLORREF>(mask));
 }
+
+void COOutlookTabCtrl::AddControl(CWnd* control, wchar_t const* title, int image, BOOL detachable, DWORD style)
+{
+    CMFCOutlookBarTabCtrl::AddControl(control, title, image, detachable, style);
+}

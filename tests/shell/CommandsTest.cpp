@@ -1,4 +1,5 @@
 #include "shell/LoadedPlugin.h"
+#include "support/FileWatch.h"
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -29,6 +30,7 @@ protected:
             CString shown;
             dialog.GetWindowTextW(shown);
             EXPECT_EQ(shown.GetString(), title);
+            EXPECT_EQ(AfxGetResourceHandle(), ResourceModule::handle());
             return result;
         });
     }
@@ -53,6 +55,15 @@ TEST_F(CommandsTest, TheApplicationOfACommandIsKept)
     openModel();
     long const held = application.use_count();
     command(999);
+    EXPECT_EQ(application.use_count(), held + 1);
+}
+
+TEST_F(CommandsTest, TheApplicationIsKeptWithoutAConnectionToo)
+{
+    openModel();
+    orvplatform::setConnectedForTest(false);
+    long const held = application.use_count();
+    command(share);
     EXPECT_EQ(application.use_count(), held + 1);
 }
 
@@ -98,6 +109,61 @@ TEST_F(CommandsTest, AnEmptySessionFilePushesWithEmptyNames)
     command(push);
     EXPECT_EQ(network.last().field("username"), "");
     EXPECT_TRUE(isEnabled(share));
+}
+
+TEST_F(CommandsTest, AnEmptySessionFileLeavesTheUserIdThatIsKnown)
+{
+    signIn();
+    LoadedPlugin restored; // knows Ann
+    sendHint(*restored.operator->(), codes::documentOpened, scene.document);
+    SessionFile().createEmpty();
+    network.expect("/api/UploadInput/", jobIdBytes);
+    restored->OnCommand(nullptr, push, application);
+    EXPECT_EQ(network.last().field("username"), "");
+    EXPECT_EQ(network.last().header("Authorization"), std::string("Bearer ") + tokenBytes);
+}
+
+TEST_F(CommandsTest, AfterAFailedLogoutANewStartPushesWithEmptyNames)
+{
+    signIn();
+    network.expectFailure("/api/Logout/");
+    EXPECT_EQ(CloudHelper::logout(user->username), CloudHelper::logoutFailed);
+    LoadedPlugin restored;
+    sendHint(*restored.operator->(), codes::documentOpened, scene.document);
+    network.expect("/api/UploadInput/", jobIdBytes);
+    restored->OnCommand(nullptr, push, application); // the push, not the login
+    EXPECT_EQ(network.last().field("username"), "");
+    EXPECT_EQ(network.last().header("Authorization"), "");
+}
+
+TEST_F(CommandsTest, APushTestsTheSessionFileAndOpensItOnceMore)
+{
+    signIn();
+    openModel();
+    network.expect("/api/UploadInput/", jobIdBytes);
+    FileWatch watch(SessionFile().path());
+    command(push);
+    EXPECT_EQ(watch.events(), (std::vector<std::string>{"open", "close", "open", "read", "close"}));
+}
+
+TEST_F(CommandsTest, AnUpdatePassOpensTheSessionFileOnceAndReadsNothing)
+{
+    signIn();
+    FileWatch watch(SessionFile().path());
+    EXPECT_TRUE(isEnabled(share));
+    EXPECT_EQ(watch.events(), (std::vector<std::string>{"open", "close"}));
+    isEnabled(push);
+    isEnabled(feeds);
+    EXPECT_TRUE(watch.events().empty());
+}
+
+TEST_F(CommandsTest, ADirectoryInTheSessionFilesPlaceIsNoSession)
+{
+    std::filesystem::create_directories(SessionFile().path());
+    openModel();
+    EXPECT_FALSE(isEnabled(share));
+    expectDialog(L"Login to Orvanta Cloud");
+    command(push);
 }
 
 TEST_F(CommandsTest, SignedOutAPushOpensTheLogin)

@@ -1,6 +1,6 @@
 #include "shell/LoadedPlugin.h"
 
-#include "host/orv/IOutlookPane.h"
+#include "platform/qt/ToolBarPictures.h"
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -36,6 +36,27 @@ protected:
     void openSideBar()
     {
         EXPECT_TRUE(sideBar.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 7, WS_CHILD | WS_VISIBLE));
+    }
+
+    /// True where the list's picture is the resource's.
+    static bool isPicture(CMFCToolBarImages& list, int index, UINT id)
+    {
+        CMFCToolBarImages reference;
+        reference.SetImageSize(list.GetImageSize());
+        EXPECT_TRUE(reference.Load(id, ResourceModule::handle(), TRUE));
+        auto const& pictures = list.pictures().pictures;
+        return index < static_cast<int>(pictures.size()) &&
+               pictures[static_cast<std::size_t>(index)] == reference.pictures().pictures.at(0);
+    }
+    /// The picture that a list of that size makes of the resource.
+    static QImage paneImage(UINT id, int width, int height)
+    {
+        CPngImage picture;
+        EXPECT_TRUE(picture.Load(id));
+        CImageList list;
+        EXPECT_TRUE(list.Create(width, height, ILC_COLOR32 | ILC_MASK, 1, 1));
+        list.Add(&picture, 0xFF00FF);
+        return list.GetSafeHandle()->pictures.at(0);
     }
 
     LoadedPlugin plugin;
@@ -89,6 +110,85 @@ TEST_F(InterfaceTest, PicturesOfTheViewerKeepTheirPlaces)
     EXPECT_EQ(share->GetImageIndex(TRUE), 3);
 }
 
+TEST_F(InterfaceTest, ThePanelStandsInTheActiveCategory)
+{
+    OrvantaCategory& first = openRibbon();
+    auto* const second = dynamic_cast<OrvantaCategory*>(
+        ribbon.AddCategory(L"View", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(OrvantaCategory)));
+    ASSERT_NE(second, nullptr);
+    second->AddPanel(L"Help");
+    ASSERT_TRUE(ribbon.SetActiveCategory(second));
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    EXPECT_EQ(first.GetPanelCount(), 2);
+    ASSERT_EQ(second->GetPanelCount(), 2);
+    EXPECT_STREQ(second->GetPanel(0)->GetName(), L"Cloud");
+}
+
+TEST_F(InterfaceTest, ThePicturesAreThoseOfTheDisplaysStep)
+{
+    struct {
+        double dpi;
+        UINT largePush, smallPush, largeShare, largePane, smallPane;
+    } const steps[] = {
+        {96.0, 501, 505, 509, 205, 206},
+        {120.0, 502, 506, 510, 238, 241},
+        {144.0, 503, 507, 511, 239, 242},
+        {192.0, 504, 508, 512, 240, 243},
+    };
+    for (auto const& step : steps) {
+        configure(L"en", step.dpi);
+        SCOPED_TRACE(step.dpi);
+        CMFCRibbonBar bar;
+        EXPECT_TRUE(bar.Create(&frame));
+        auto& category = dynamic_cast<OrvantaCategory&>(
+            *bar.AddCategory(L"Home", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(OrvantaCategory)));
+        plugin->AddToRibbon(bar.GetSafeHwnd(), resources);
+        EXPECT_TRUE(isPicture(category.GetLargeImages(), 0, step.largePush));
+        EXPECT_TRUE(isPicture(category.GetLargeImages(), 1, step.largeShare));
+        EXPECT_TRUE(isPicture(category.GetSmallImages(), 0, step.smallPush));
+
+        LoadedPlugin another; // a pane goes into one side bar alone
+        SideBar side;
+        EXPECT_TRUE(side.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 8, WS_CHILD | WS_VISIBLE));
+        another->AddToOutlookBar(side.GetSafeHwnd(), resources);
+        ASSERT_EQ(side.tabs().large.size(), 1U);
+        ASSERT_EQ(side.tabs().small.size(), 1U);
+        RecordingTabs::Images const& large = side.tabs().large[0];
+        RecordingTabs::Images const& small = side.tabs().small[0];
+        orvsgutils::PIXELS const& pixels = orvsgutils::ResourceLoader::m_Pixel;
+        int const largeSide = static_cast<int>(1.5 * pixels.smallWidth);
+        EXPECT_EQ(large.size, largeSide);
+        EXPECT_EQ(large.width, largeSide);
+        EXPECT_EQ(large.height, largeSide);
+        EXPECT_EQ(large.count, 1);
+        EXPECT_EQ(large.mask, 0xFF00FFU);
+        EXPECT_EQ(large.first, paneImage(step.largePane, largeSide, largeSide));
+        EXPECT_EQ(small.size, pixels.smallWidth);
+        EXPECT_EQ(small.width, pixels.smallWidth);
+        EXPECT_EQ(small.height, pixels.smallHeight);
+        EXPECT_EQ(small.count, 1);
+        EXPECT_EQ(small.mask, 0xFF00FFU);
+        EXPECT_EQ(small.first, paneImage(step.smallPane, pixels.smallWidth, pixels.smallHeight));
+        side.DestroyWindow();
+        bar.DestroyWindow();
+    }
+    EXPECT_NE(paneImage(205, 24, 24), paneImage(238, 24, 24)) << "else the comparisons above would say nothing";
+}
+
+TEST_F(InterfaceTest, TheLargeSideIsCutToAWholeNumber)
+{
+    openSideBar();
+    orvsgutils::PIXELS const before = orvsgutils::ResourceLoader::m_Pixel;
+    orvsgutils::ResourceLoader::m_Pixel.smallWidth = 21;
+    orvsgutils::ResourceLoader::m_Pixel.smallHeight = 18;
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    orvsgutils::ResourceLoader::m_Pixel = before;
+    ASSERT_EQ(sideBar.tabs().large.size(), 1U);
+    EXPECT_EQ(sideBar.tabs().large[0].size, 31); // of 31.5
+    EXPECT_EQ(sideBar.tabs().small[0].width, 21);
+    EXPECT_EQ(sideBar.tabs().small[0].height, 18);
+}
+
 TEST_F(InterfaceTest, ThePanelSpeaksTheUsersLanguage)
 {
     configure(L"de");
@@ -138,6 +238,56 @@ TEST_F(InterfaceTest, ThePaneIsATabOfTheSideBar)
     auto* const outlookPane = dynamic_cast<orv::IOutlookPane*>(pane);
     ASSERT_NE(outlookPane, nullptr);
     EXPECT_EQ(outlookPane->paneValue, 5);
+}
+
+TEST_F(InterfaceTest, ThePaneFloatsHidesAndResizesButDoesNotClose)
+{
+    openSideBar();
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    ASSERT_EQ(sideBar.tabs().controls.size(), 1U);
+    RecordingTabs::Added const& added = sideBar.tabs().controls[0];
+    EXPECT_EQ(added.title, L"Feeds");
+    EXPECT_EQ(added.image, 0);
+    EXPECT_TRUE(added.detachable);
+    EXPECT_EQ(added.style, 7U);
+    EXPECT_EQ(added.style & AFX_CBRS_CLOSE, 0U);
+}
+
+TEST_F(InterfaceTest, ThePanesImageStandsBehindThoseOfTheBar)
+{
+    openSideBar();
+    CImageList others;
+    CPngImage picture;
+    EXPECT_TRUE(picture.Load(205));
+    EXPECT_TRUE(others.Create(24, 24, ILC_COLOR32 | ILC_MASK, 1, 1));
+    others.Add(&picture, 0xFF00FF);
+    sideBar.tabs().AddImageList(others.GetSafeHandle(), 24, 0xFF00FF);
+    sideBar.tabs().AddImageList(others.GetSafeHandle(), 24, 0xFF00FF);
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    ASSERT_EQ(sideBar.tabs().controls.size(), 1U);
+    EXPECT_EQ(sideBar.tabs().controls[0].image, 2); // counted in the large images
+}
+
+TEST_F(InterfaceTest, ASideBarWithoutTabsIsLeftAlone)
+{
+    openSideBar();
+    sideBar.hasTabs = false;
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    EXPECT_TRUE(resources->windows.empty());
+    EXPECT_EQ(sideBar.tabs().GetTabsNum(), 0);
+    sideBar.hasTabs = true; // nothing was used up
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    EXPECT_EQ(sideBar.tabs().GetTabsNum(), 1);
+}
+
+TEST_F(InterfaceTest, ThePaneStandsInOneSideBarAlone)
+{
+    openSideBar();
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    EXPECT_EQ(sideBar.tabs().GetTabsNum(), 1);
+    EXPECT_EQ(sideBar.tabs().large.size(), 1U);
+    EXPECT_EQ(resources->windows.size(), 1U);
 }
 
 TEST_F(InterfaceTest, TheTabCountsTheEntriesOfTheFeed)

@@ -1,5 +1,12 @@
 #include "shell/LoadedPlugin.h"
 
+#include <json/json.h>
+
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <set>
+
 using namespace orvtest;
 namespace codes = orv::HintCode;
 
@@ -18,6 +25,14 @@ protected:
     }
     ~LifecycleTest() override { FreeLibrary(module); }
 
+    std::string authorOfLastComment() const
+    {
+        Json::Value record;
+        EXPECT_TRUE(Json::Reader().parse(network.last().field("comment"), record));
+        return record["author"]["name"].asString();
+    }
+
+    static constexpr wchar_t exporterLibrary[] = L"prcdelaywriter.dll";
     HMODULE module;
     Function create = nullptr;
     Function destroy = nullptr;
@@ -59,9 +74,54 @@ TEST_F(LifecycleTest, NoPreferencesAreKept)
 TEST_F(LifecycleTest, MakingOneTouchesNeitherNetworkNorWindows)
 {
     signIn();
+    HWND const active = GetActiveWindow();
+    auto const windows = QGuiApplication::allWindows();
     LoadedPlugin const plugin;
     EXPECT_TRUE(network.sent().empty());
-    EXPECT_TRUE(application->texts.empty());
+    EXPECT_EQ(QGuiApplication::allWindows(), windows);
+    EXPECT_EQ(GetActiveWindow(), active);
+}
+
+TEST_F(LifecycleTest, AllThreeLinesOfTheSessionAreRestored)
+{
+    signIn();
+    PluginWithPane restored(frame);
+    frame.ShowWindow(SW_SHOW);
+    restored.openModel(scene.document);
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    ASSERT_TRUE(restored.submitComment(L"Check the clearance"));
+    EXPECT_EQ(network.last().field("username"), "ann@example.com");
+    EXPECT_EQ(network.last().header("Authorization"), std::string("Bearer ") + tokenBytes);
+    EXPECT_EQ(authorOfLastComment(), "Ann");
+}
+
+TEST_F(LifecycleTest, APushReadsTheSessionAgainButNotItsThirdLine)
+{
+    signIn();
+    PluginWithPane restored(frame);
+    frame.ShowWindow(SW_SHOW);
+    restored.openModel(scene.document);
+    SessionFile().write(L"bob@example.com", jobId, L"Bob");
+    network.expect("/api/UploadInput/", jobIdBytes);
+    restored.plugin->OnCommand(nullptr, 118, application);
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    ASSERT_TRUE(restored.submitComment(L"hello"));
+    EXPECT_EQ(network.last().field("username"), "bob@example.com");
+    EXPECT_EQ(network.last().header("Authorization"), std::string("Bearer ") + jobIdBytes);
+    EXPECT_EQ(authorOfLastComment(), "Ann");
+}
+
+TEST_F(LifecycleTest, AnEmptySessionFileRestoresNobody)
+{
+    SessionFile().createEmpty();
+    PluginWithPane restored(frame);
+    frame.ShowWindow(SW_SHOW);
+    restored.openModel(scene.document);
+    EXPECT_FALSE(restored.submitComment(L"hello")); // the prompt stands there
+    restored.pane->OnActivateChange(true);
+    EXPECT_TRUE(network.sent().empty());
 }
 
 TEST_F(LifecycleTest, TheSessionFileStaysBehind)
@@ -77,28 +137,24 @@ TEST_F(LifecycleTest, TheSessionFileStaysBehind)
     EXPECT_EQ(saved.name, L"Ann");
 }
 
-TEST_F(LifecycleTest, ADocumentIsTakenFromSixCodes)
+TEST_F(LifecycleTest, ADocumentIsTakenFromSixCodesAndNoOther)
 {
-    for (short const code : {codes::documentActivated, codes::documentOpened, codes::documentReplaced,
-                             codes::documentReloaded, codes::documentImported, codes::documentSaved}) {
+    std::set<short> const taking{1, 3, 8, 18, 25, 26};
+    for (short code = -1; code <= 50; ++code) {
         LoadedPlugin plugin;
         long const before = scene.document.use_count();
         sendHint(*plugin.operator->(), code, scene.document);
-        EXPECT_EQ(scene.document.use_count(), before + 1) << code;
+        EXPECT_EQ(scene.document.use_count(), before + (taking.contains(code) ? 1 : 0)) << code;
     }
 }
 
-TEST_F(LifecycleTest, OtherCodesAndEmptyHintsAreLeftAlone)
+TEST_F(LifecycleTest, ANullHintIsLeftAlone)
 {
     LoadedPlugin plugin;
-    long const before = scene.document.use_count();
+    sendHint(*plugin.operator->(), codes::documentOpened, scene.document);
+    long const held = scene.document.use_count();
     plugin->OnUpdate(nullptr);
-    for (short const code :
-         {short{0}, codes::documentClosed, codes::documentChanged, codes::viewChanged, codes::sceneChanged,
-          codes::viewRestored, codes::commentAdded, codes::feedReloaded, codes::signedIn, codes::signedOut}) {
-        sendHint(*plugin.operator->(), code, scene.document);
-    }
-    EXPECT_EQ(scene.document.use_count(), before);
+    EXPECT_EQ(scene.document.use_count(), held);
 }
 
 TEST_F(LifecycleTest, TheLastDocumentAloneStaysReferenced)
@@ -123,19 +179,68 @@ TEST_F(LifecycleTest, AClosedDocumentAndAnEmptyHintKeepTheDocument)
 
 TEST_F(LifecycleTest, DestructionReleasesEverything)
 {
-    long const before = scene.document.use_count();
+    long const documents = scene.document.use_count();
+    long const applications = application.use_count();
+    EXPECT_EQ(GetModuleHandleW(exporterLibrary), nullptr);
     {
         LoadedPlugin plugin;
         sendHint(*plugin.operator->(), codes::documentOpened, scene.document);
+        plugin->OnCommand(nullptr, 999, application);
+        EXPECT_EQ(scene.document.use_count(), documents + 1);
+        EXPECT_EQ(application.use_count(), applications + 1);
+        EXPECT_NE(GetModuleHandleW(exporterLibrary), nullptr);
     }
-    EXPECT_EQ(scene.document.use_count(), before);
+    EXPECT_EQ(scene.document.use_count(), documents);
+    EXPECT_EQ(application.use_count(), applications);
+    // Its library goes with the last one that shares the exporter: the helper and the pane are gone as well.
+    EXPECT_EQ(GetModuleHandleW(exporterLibrary), nullptr);
 }
 
-TEST_F(LifecycleTest, AMissingExporterIsNotNoticed)
+TEST_F(LifecycleTest, TheOptionsPageAndItsApplicationAreReleased)
+{
+    long const documents = scene.document.use_count();
+    long const applications = application.use_count();
+    CMFCPropertySheet sheet(L"Options");
+    EXPECT_TRUE(sheet.Create(&frame));
+    {
+        LoadedPlugin plugin;
+        sendHint(*plugin.operator->(), codes::documentOpened, scene.document);
+        plugin->OnCommand(nullptr, 999, application);
+        plugin->AddToPropertySheet(sheet.GetSafeHwnd(), nullptr);
+        ASSERT_EQ(sheet.GetPageCount(), 1);
+        EXPECT_EQ(scene.document.use_count(), documents + 2);
+        sheet.DestroyWindow();
+    }
+    EXPECT_EQ(scene.document.use_count(), documents);
+    EXPECT_EQ(application.use_count(), applications);
+    EXPECT_EQ(GetModuleHandleW(exporterLibrary), nullptr);
+}
+
+TEST_F(LifecycleTest, APaneWithAWindowOutlivesThePlugin)
+{
+    SideBar bar;
+    EXPECT_TRUE(bar.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 8, WS_CHILD | WS_VISIBLE));
+    LoadedPlugin const keepsTheLibrary;
+    {
+        LoadedPlugin plugin;
+        plugin->AddToOutlookBar(bar.GetSafeHwnd(), std::make_shared<FakeResourceManager>());
+    }
+    ASSERT_EQ(bar.tabs().GetTabsNum(), 1);
+    EXPECT_NE(bar.tabs().GetTabWnd(0), nullptr);
+    bar.DestroyWindow();
+}
+
+TEST_F(LifecycleTest, WithoutTheExportersLibraryEverythingElseWorks)
 {
     orvhost::Settings settings = orvhost::settings();
     settings.libraryDirectory = dataDirectory.wstring();
     orvhost::configure(settings);
-    LoadedPlugin const plugin;
-    EXPECT_TRUE(application->texts.empty());
+    signIn();
+    PluginWithPane restored(frame);
+    EXPECT_EQ(GetModuleHandleW(exporterLibrary), nullptr);
+    frame.ShowWindow(SW_SHOW);
+    restored.openModel(scene.document);
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    EXPECT_TRUE(restored.submitComment(L"hello"));
 }
