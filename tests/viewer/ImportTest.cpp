@@ -226,6 +226,19 @@ TEST(Import, ReadsWavefrontFiles)
     EXPECT_TRUE(found) << "units are taken as millimetres";
 }
 
+TEST(Import, ReadsGroupsAsParts)
+{
+    TemporaryFolder const folder;
+    auto const result = importFile(writeThreeCubes(folder.path));
+    ASSERT_TRUE(result.document);
+    expectSoundRecords(result.document);
+    Records const records(result.document);
+    EXPECT_EQ(partCount(records), 3);
+    for (auto const& mesh : records.resources->meshes) {
+        EXPECT_NEAR(enclosedVolume(*mesh), 1000.0, 1e-3);
+    }
+}
+
 TEST(Import, AnswersBadFilesWithASentence)
 {
     TemporaryFolder const folder;

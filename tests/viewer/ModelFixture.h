@@ -56,6 +56,28 @@ inline std::filesystem::path writeFile(std::filesystem::path const& file, std::s
     return file;
 }
 
+/// A small assembly of three cubes of 10 mm side by side, quick to open.
+inline std::filesystem::path writeThreeCubes(std::filesystem::path const& folder)
+{
+    std::ostringstream text;
+    for (int cube = 0; cube < 3; ++cube) {
+        text << "g cube" << cube << '\n';
+        for (unsigned corner = 0; corner < 8; ++corner) {
+            text << "v " << 20 * cube + ((corner & 1U) != 0 ? 10 : 0) << ((corner & 2U) != 0 ? " 10" : " 0")
+                 << ((corner & 4U) != 0 ? " 10" : " 0") << '\n';
+        }
+        int const quads[6][4] = {{0, 2, 3, 1}, {4, 5, 7, 6}, {0, 1, 5, 4}, {2, 6, 7, 3}, {0, 4, 6, 2}, {1, 3, 7, 5}};
+        for (auto const& quad : quads) {
+            text << 'f';
+            for (int const corner : quad) {
+                text << ' ' << 8 * cube + corner + 1;
+            }
+            text << '\n';
+        }
+    }
+    return writeFile(folder / "cubes.obj", text.str());
+}
+
 inline orvviewer::ImportResult importFile(std::filesystem::path const& file)
 {
     orvviewer::ImportProgress progress;

@@ -51,7 +51,7 @@ protected:
 
     void expectWorks()
     {
-        ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+        ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring()));
         session->context().select({1});
         EXPECT_TRUE(session->runCommand(orvviewer::hideParts));
         EXPECT_FALSE(orv::recordOf<orvsg::SCSceneRT>(session->document())->visibility[1]);
@@ -144,7 +144,7 @@ TEST_F(PluginHostTest, DeliversTheHintsOfADocumentsLife)
     install("Recording");
     start();
     takeEvents();
-    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring()));
     auto list = takeEvents();
     EXPECT_GE(placeOf(list, "hint 1"), 0);
     EXPECT_LT(placeOf(list, "hint 1"), placeOf(list, "hint 3"));
@@ -169,7 +169,7 @@ TEST_F(PluginHostTest, ActivatesThePaneForEachOpenedModel)
     install("Recording");
     start();
     takeEvents();
-    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring()));
     auto const list = takeEvents();
     EXPECT_LT(placeOf(list, "pane hint 3"), placeOf(list, "pane activated"));
 }
@@ -182,7 +182,7 @@ TEST_F(PluginHostTest, RoutesCommandsByThePluginsOwnNumber)
     EXPECT_TRUE(session->plugins().owns(id));
     EXPECT_FALSE(session->plugins().owns(id + 500));
     EXPECT_FALSE(session->runCommand(id)) << "disabled without a document";
-    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring()));
     takeEvents();
     EXPECT_TRUE(session->runCommand(id));
     EXPECT_GE(placeOf(takeEvents(), "command 118"), 0);

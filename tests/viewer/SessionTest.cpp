@@ -26,10 +26,13 @@ namespace
 class SessionTest : public SessionFixture
 {
 protected:
-    void openSample()
+    std::filesystem::path cubes() const { return writeThreeCubes(folder.path); }
+
+    /// The cubes unless told otherwise.
+    void open(std::filesystem::path model = {})
     {
         start();
-        ASSERT_TRUE(session->openModel(sampleModel().wstring())) << status();
+        ASSERT_TRUE(session->openModel((model.empty() ? cubes() : model).wstring())) << status();
         topology = orv::recordOf<orvsg::SCSceneTopo>(session->document());
         resources = orv::recordOf<orvsg::SCSceneRes>(session->document());
         runtime = orv::recordOf<orvsg::SCSceneRT>(session->document());
@@ -53,9 +56,9 @@ protected:
 
 TEST_F(SessionTest, OpensAModelAndSaysSo)
 {
-    openSample();
-    EXPECT_NE(status().find("planetary-gearbox.step"), std::string::npos);
-    EXPECT_EQ(session->window().windowTitle().toStdString(), "planetary-gearbox.step - Orvanta");
+    open();
+    EXPECT_NE(status().find("cubes.obj"), std::string::npos);
+    EXPECT_EQ(session->window().windowTitle().toStdString(), "cubes.obj - Orvanta");
     auto const link = orv::recordOf<orv::SCApplication>(session->document());
     ASSERT_TRUE(link);
     EXPECT_EQ(link->application, session->application());
@@ -65,7 +68,7 @@ TEST_F(SessionTest, OpensAModelAndSaysSo)
 
 TEST_F(SessionTest, ABadFileLeavesTheOpenModelOpen)
 {
-    openSample();
+    open();
     auto const before = session->document();
     EXPECT_FALSE(session->openModel(writeFile(folder.path / "cut.step", "ISO-10303-21;\nHEADER;").wstring()));
     EXPECT_EQ(session->document(), before);
@@ -76,7 +79,7 @@ TEST_F(SessionTest, ABadFileLeavesTheOpenModelOpen)
 
 TEST_F(SessionTest, ClosingLeavesNoDocument)
 {
-    openSample();
+    open();
     session->closeModel();
     EXPECT_FALSE(session->document());
     EXPECT_EQ(session->window().windowTitle().toStdString(), "Orvanta");
@@ -86,7 +89,7 @@ TEST_F(SessionTest, ClosingLeavesNoDocument)
 
 TEST_F(SessionTest, HidesIsolatesAndShowsParts)
 {
-    openSample();
+    open();
     auto& context = session->context();
     context.select({part});
     EXPECT_TRUE(session->runCommand(orvviewer::hideParts));
@@ -106,7 +109,7 @@ TEST_F(SessionTest, HidesIsolatesAndShowsParts)
 
 TEST_F(SessionTest, ColoursAndTransparencyAreOverridesThatGoAgain)
 {
-    openSample();
+    open();
     auto& context = session->context();
     auto const before = scene().color(part);
     orvviewer::colourNodes(context, {part}, 0x123456);
@@ -130,7 +133,10 @@ TEST_F(SessionTest, ColoursAndTransparencyAreOverridesThatGoAgain)
 
 TEST_F(SessionTest, MovesPartsAlongTheModelsAxes)
 {
-    openSample();
+    open(sampleModel());
+    for (part = scene().nodeCount() - 1; topology->nodes.getValue(part).mesh < 0;) {
+        --part;
+    }
     auto const before = scene().worldMatrix(part);
     orvviewer::moveNodes(session->context(), {part}, 10.0, -5.0, 2.5);
     auto const after = scene().worldMatrix(part);
@@ -142,7 +148,7 @@ TEST_F(SessionTest, MovesPartsAlongTheModelsAxes)
 
 TEST_F(SessionTest, APartOfAMovedWholeMovesOnce)
 {
-    openSample();
+    open();
     auto const before = scene().worldMatrix(part);
     orvviewer::moveNodes(session->context(), {0, part}, 7.0, 0.0, 0.0);
     EXPECT_NEAR(scene().worldMatrix(part)[12] - before[12], 7.0, 1e-3);
@@ -150,7 +156,7 @@ TEST_F(SessionTest, APartOfAMovedWholeMovesOnce)
 
 TEST_F(SessionTest, ResetBringsBackWhatTheFileSays)
 {
-    openSample();
+    open();
     auto& context = session->context();
     auto const color = scene().color(part);
     auto const transforms = resources->transforms;
@@ -169,7 +175,7 @@ TEST_F(SessionTest, ResetBringsBackWhatTheFileSays)
 
 TEST_F(SessionTest, NodesOutsideTheModelAreIgnored)
 {
-    openSample();
+    open();
     auto& context = session->context();
     for (int const node : {-1, -2147483647, 100000}) {
         context.select({node});
@@ -185,7 +191,7 @@ TEST_F(SessionTest, NodesOutsideTheModelAreIgnored)
 
 TEST_F(SessionTest, ViewCommandsMoveTheCameraRecord)
 {
-    openSample();
+    open();
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(session->document());
     EXPECT_TRUE(session->runCommand(orvviewer::viewFront));
     EXPECT_LT(renderer->camera->eye[1], renderer->camera->target[1]);
@@ -205,7 +211,7 @@ TEST_F(SessionTest, CommandsNeedWhatTheyWorkOn)
         EXPECT_FALSE(session->commands().isEnabled(id)) << id;
     }
     EXPECT_TRUE(session->commands().isEnabled(orvviewer::openFile));
-    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    ASSERT_TRUE(session->openModel(cubes().wstring()));
     EXPECT_TRUE(session->commands().isEnabled(orvviewer::fitAll));
     EXPECT_FALSE(session->commands().isEnabled(orvviewer::hideParts));
     session->context().select({0});
@@ -215,12 +221,12 @@ TEST_F(SessionTest, CommandsNeedWhatTheyWorkOn)
 
 TEST_F(SessionTest, RemembersWhatWasOpened)
 {
-    openSample();
+    open();
     orvviewer::RecentFiles const recent;
     ASSERT_EQ(recent.paths().size(), 1U);
-    EXPECT_EQ(std::filesystem::path(recent.paths()[0]), sampleModel());
-    auto const copy = folder.path / "copy.step";
-    std::filesystem::copy_file(sampleModel(), copy);
+    EXPECT_EQ(std::filesystem::path(recent.paths()[0]), cubes());
+    auto const copy = folder.path / "copy.obj";
+    std::filesystem::copy_file(cubes(), copy);
     ASSERT_TRUE(session->openModel(copy.wstring()));
     ASSERT_EQ(recent.paths().size(), 2U);
     EXPECT_EQ(std::filesystem::path(recent.paths()[0]), copy);
@@ -230,7 +236,7 @@ TEST_F(SessionTest, RemembersWhatWasOpened)
 
 TEST_F(SessionTest, SavingWithoutAnExporterIsASentenceAndAStatus)
 {
-    openSample();
+    open();
     int outcome = 0;
     auto const path = (folder.path / "out.stl").wstring();
     session->application()->saveFile(path.c_str(),
@@ -243,7 +249,7 @@ TEST_F(SessionTest, SavingWithoutAnExporterIsASentenceAndAStatus)
 
 TEST_F(SessionTest, TheApplicationOutlivesItsWindowInSilence)
 {
-    openSample();
+    open();
     auto const application = session->application();
     auto const document = session->document();
     session.reset();
@@ -260,7 +266,7 @@ TEST_F(SessionTest, TheApplicationOutlivesItsWindowInSilence)
 TEST_F(SessionTest, OneViewerMayFollowAnother)
 {
     for (int i = 0; i < 3; ++i) {
-        openSample();
+        open();
         EXPECT_TRUE(session->document());
         session.reset();
     }

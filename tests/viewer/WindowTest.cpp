@@ -25,17 +25,18 @@ namespace
 class WindowTest : public SessionFixture
 {
 protected:
-    void openSample()
+    void openCubes()
     {
         start();
         ASSERT_TRUE(session->canDraw()) << status();
         session->window().resize(1200, 800);
         session->window().show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&session->window()));
-        ASSERT_TRUE(session->openModel(sampleModel().wstring())) << status();
+        ASSERT_TRUE(session->openModel(model().wstring())) << status();
         orvplatform::testing::processEvents();
     }
 
+    std::filesystem::path model() const { return writeThreeCubes(folder.path); }
     orvviewer::ModelView& view() { return session->window().view(); }
     orvgl::Camera& camera() { return *orv::recordOf<orvgl::SCRenderer>(session->document())->camera; }
     QPoint middle() { return view().rect().center(); }
@@ -57,7 +58,7 @@ double distance(orvmath::Tuple<float, 3> const& a, orvmath::Tuple<float, 3> cons
 
 TEST_F(WindowTest, DraggingTurnsTheModel)
 {
-    openSample();
+    openCubes();
     auto const before = camera();
     QTest::mousePress(&view(), Qt::LeftButton, {}, middle());
     QTest::mouseMove(&view(), middle() + QPoint(40, 10));
@@ -70,7 +71,7 @@ TEST_F(WindowTest, DraggingTurnsTheModel)
 
 TEST_F(WindowTest, TheMiddleButtonPansAndTheWheelZooms)
 {
-    openSample();
+    openCubes();
     auto const before = camera();
     QTest::mousePress(&view(), Qt::MiddleButton, {}, middle());
     QTest::mouseMove(&view(), middle() + QPoint(60, 0));
@@ -85,7 +86,7 @@ TEST_F(WindowTest, TheMiddleButtonPansAndTheWheelZooms)
 
 TEST_F(WindowTest, AClickSelectsThePartUnderThePointer)
 {
-    openSample();
+    openCubes();
     QTest::mouseClick(&view(), Qt::LeftButton, {}, middle());
     ASSERT_EQ(session->context().selection().size(), 1U);
     int const node = *session->context().selection().begin();
@@ -96,7 +97,7 @@ TEST_F(WindowTest, AClickSelectsThePartUnderThePointer)
 
 TEST_F(WindowTest, KeysTurnPanAndZoom)
 {
-    openSample();
+    openCubes();
     view().setFocus();
     auto const before = camera();
     QTest::keyClick(&view(), Qt::Key_Left);
@@ -110,7 +111,7 @@ TEST_F(WindowTest, KeysTurnPanAndZoom)
 
 TEST_F(WindowTest, PluginsGetFramesOfTheShownScene)
 {
-    openSample();
+    openCubes();
     auto const before = frame();
     EXPECT_EQ(before, frame());
     orvviewer::hideNodes(session->context(), {0});
@@ -121,7 +122,7 @@ TEST_F(WindowTest, PluginsGetFramesOfTheShownScene)
 
 TEST_F(WindowTest, AFrameFollowsRecordsThatNoHintHasAnnouncedYet)
 {
-    openSample();
+    openCubes();
     auto const before = frame();
     orv::recordOf<orvsg::SCSceneRT>(session->document())->visibility[0] = false;
     EXPECT_NE(before, frame());
@@ -129,26 +130,29 @@ TEST_F(WindowTest, AFrameFollowsRecordsThatNoHintHasAnnouncedYet)
 
 TEST_F(WindowTest, SavesPicturesAndPreviews)
 {
-    openSample();
+    openCubes();
     auto const picture = folder.path / "view.png";
     EXPECT_TRUE(session->savePicture(picture.wstring(), 320, 200));
     EXPECT_EQ(QImage(QString::fromStdString(picture.string())).size(), QSize(320, 200));
     EXPECT_FALSE(session->savePicture((folder.path / "none" / "view.png").wstring(), 320, 200));
     EXPECT_NE(status().find("can't be written"), std::string::npos);
-    EXPECT_FALSE(orvviewer::RecentFiles().previewOf(sampleModel().wstring()).isNull());
+    EXPECT_FALSE(orvviewer::RecentFiles().previewOf(model().wstring()).isNull());
 }
 
 TEST_F(WindowTest, ResizingAndClosingAreSurvived)
 {
-    openSample();
+    openCubes();
     session->window().resize(700, 500);
     orvplatform::testing::processEvents();
     session->closeModel();
     session->window().resize(900, 600);
     orvplatform::testing::processEvents();
-    ASSERT_TRUE(session->openModel(sampleModel().wstring()));
+    ASSERT_TRUE(session->openModel(model().wstring()));
     session->window().close();
     orvplatform::testing::processEvents();
+    session->window().show();
+    orvplatform::testing::processEvents();
+    session->runCommand(orvviewer::fitAll);
     session.reset();
-    openSample();
+    openCubes();
 }

@@ -3,6 +3,7 @@
 #include "platform/qt/Look.h"
 #include "viewer/app/ModelTree.h"
 #include "viewer/app/ModelView.h"
+#include "viewer/app/StartPage.h"
 #include "viewer/app/StatusLine.h"
 
 #include <QApplication>
@@ -12,7 +13,9 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QSplitter>
+#include <QStackedWidget>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvviewer
@@ -21,7 +24,7 @@ namespace orvviewer
 namespace
 {
 
-constexpr int treeWidth = 248;
+constexpr int treeWidth = 272;
 constexpr int foldedLimit = 120; ///< a side bar that asks for less is folded to its strip
 
 bool isInput(QEvent::Type type)
@@ -48,12 +51,14 @@ bool isInput(QEvent::Type type)
 } // namespace
 
 MainWindow::MainWindow()
-    : splitter(new QSplitter(Qt::Horizontal, this)), modelTree(new ModelTree), modelView(new ModelView),
-      statusLine(new StatusLine)
+    : splitter(new QSplitter(Qt::Horizontal, this)), middle(new QStackedWidget), start(new StartPage),
+      modelTree(new ModelTree), modelView(new ModelView), statusLine(new StatusLine)
 {
     setWindowIcon(QIcon(":/icons/orvanta.svg"));
     splitter->addWidget(modelTree);
-    splitter->addWidget(modelView);
+    middle->addWidget(start);
+    middle->addWidget(modelView);
+    splitter->addWidget(middle);
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
     splitter->setHandleWidth(1);
@@ -64,7 +69,7 @@ MainWindow::MainWindow()
     setAcceptDrops(true);
     resize(1440, 900);
     splitter->setSizes({treeWidth, width() - treeWidth});
-    showModelName({});
+    showModel({});
 }
 
 MainWindow::~MainWindow() = default;
@@ -90,8 +95,9 @@ void MainWindow::followSideBar()
     sideBar->setMinimumWidth(isFolded ? wanted : orvplatform::measures::sideBarWidth);
     sideBar->setMaximumWidth(isFolded ? wanted : 2 * orvplatform::measures::sideBarWidth);
     int const bar = isFolded ? wanted : orvplatform::measures::sideBarWidth;
-    int const left = modelTree->isHidden() ? 0 : modelTree->width();
-    splitter->setSizes({left, std::max(splitter->width() - left - bar, 160), bar});
+    // Before the window is shown sizes say nothing yet.
+    int const left = modelTree->isHidden() ? 0 : isVisible() ? modelTree->width() : treeWidth;
+    splitter->setSizes({left, std::max((isVisible() ? splitter->width() : width()) - left - bar, 160), bar});
 }
 
 void MainWindow::showSideBar(bool shown)
@@ -116,9 +122,10 @@ bool MainWindow::isTreeShown() const
     return !modelTree->isHidden();
 }
 
-void MainWindow::showModelName(QString const& fileName)
+void MainWindow::showModel(QString const& fileName)
 {
     setWindowTitle(fileName.isEmpty() ? QStringLiteral("Orvanta") : fileName + " - Orvanta");
+    middle->setCurrentWidget(fileName.isEmpty() ? static_cast<QWidget*>(start) : modelView);
 }
 
 void MainWindow::block(std::function<void()> stop)

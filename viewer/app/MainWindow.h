@@ -6,12 +6,14 @@
 #include <memory>
 
 class QSplitter;
+class QStackedWidget;
 
 namespace orvviewer
 {
 
 class ModelTree;
 class ModelView;
+class StartPage;
 class StatusLine;
 
 /// The frame: model tree at the left, view in the middle, side bar at the right, status line below. Ribbon and side bar
@@ -27,6 +29,7 @@ public:
     ModelTree& tree() { return *modelTree; }
     ModelView& view() { return *modelView; }
     StatusLine& status() { return *statusLine; }
+    StartPage& startPage() { return *start; }
 
     void setRibbon(QWidget* ribbon);
     /// Takes the side bar in; it shows at its width of 320 pixels, or as a strip where it is folded.
@@ -35,7 +38,8 @@ public:
     bool isSideBarShown() const;
     void showTree(bool shown);
     bool isTreeShown() const;
-    void showModelName(QString const& fileName); ///< empty without a model
+    /// Shows the view with a model's file name in the title, or the start page where the name is empty.
+    void showModel(QString const& fileName);
 
     /// While it holds, the user can do nothing here but press Escape, which calls `stop`.
     void block(std::function<void()> stop);
@@ -54,6 +58,8 @@ private:
     void followSideBar();
 
     QSplitter* splitter;
+    QStackedWidget* middle; ///< the start page or the view
+    StartPage* start;
     ModelTree* modelTree;
     ModelView* modelView;
     StatusLine* statusLine;

@@ -3,6 +3,7 @@
 #include "host/orvsg/SCSceneRT.h"
 #include "host/orvsg/SCSceneTopo.h"
 #include "host/orvsgutils/SceneQuery.h"
+#include "platform/qt/Look.h"
 
 #include <QIcon>
 #include <QItemSelection>
@@ -16,6 +17,30 @@
 
 namespace orvviewer
 {
+
+namespace
+{
+
+/// A picture that stays as it is in selected rows, where the style would tint it away.
+QIcon plainIcon(char const* name)
+{
+    QIcon icon;
+    QIcon const drawn(QStringLiteral(":/icons/") + name + ".svg");
+    for (int const side : {16, 32}) {
+        auto const picture = drawn.pixmap(side, side);
+        icon.addPixmap(picture, QIcon::Normal);
+        icon.addPixmap(picture, QIcon::Selected);
+    }
+    return icon;
+}
+
+QColor blend(QColor const& top, QColor const& bottom, double part)
+{
+    auto const mix = [part](int a, int b) { return static_cast<int>(a * part + b * (1.0 - part)); };
+    return {mix(top.red(), bottom.red()), mix(top.green(), bottom.green()), mix(top.blue(), bottom.blue())};
+}
+
+} // namespace
 
 void NodeItems::setDocument(std::shared_ptr<orv::IDocument> next)
 {
@@ -97,8 +122,8 @@ QVariant NodeItems::data(QModelIndex const& index, int role) const
     case Qt::ToolTipRole:
         return QString::fromStdWString(node.name);
     case Qt::DecorationRole: {
-        static QIcon const assembly(":/icons/tree-assembly.svg");
-        static QIcon const part(":/icons/tree-part.svg");
+        static QIcon const assembly = plainIcon("tree-assembly");
+        static QIcon const part = plainIcon("tree-part");
         return node.children.empty() ? part : assembly;
     }
     case Qt::CheckStateRole: {
@@ -151,6 +176,11 @@ ModelTree::ModelTree(QWidget* parent)
     tree->setFrameShape(QFrame::NoFrame);
     tree->setAccessibleName(tr("Model tree"));
     setFocusProxy(tree);
+    auto const& theme = orvplatform::theme();
+    QPalette soft = tree->palette();
+    soft.setColor(QPalette::Highlight, blend(theme.accent, theme.field, 0.22));
+    soft.setColor(QPalette::HighlightedText, theme.text);
+    tree->setPalette(soft);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 4, 8);

@@ -38,7 +38,12 @@ ModelView::ModelView(QWidget* parent) : QWidget(parent)
     setAccessibleName(tr("Model view"));
     settle.setSingleShot(true);
     settle.setInterval(settleTime);
-    connect(&settle, &QTimer::timeout, this, &ModelView::cameraMoved);
+    connect(&settle, &QTimer::timeout, this, [this] {
+        if (isAttached) {
+            display->setMoving(false);
+        }
+        emit cameraMoved();
+    });
 }
 
 ModelView::~ModelView()
@@ -53,10 +58,7 @@ bool ModelView::canDraw() const
 
 void ModelView::setDisplay(std::shared_ptr<SceneDisplay> next)
 {
-    if (display && isAttached) {
-        display->detachWindow();
-    }
-    isAttached = false;
+    detach();
     display = std::move(next);
     bool const drawsItself = canDraw();
     setAttribute(Qt::WA_NativeWindow, drawsItself);
@@ -80,6 +82,14 @@ void ModelView::attach()
         display->attachWindow(static_cast<unsigned long>(winId()));
         display->setDark(orvplatform::theme().dark);
         isAttached = true;
+    }
+}
+
+void ModelView::detach()
+{
+    if (isAttached) {
+        display->detachWindow();
+        isAttached = false;
     }
 }
 
@@ -120,7 +130,6 @@ void ModelView::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     if (isAttached) {
-        display->resize();
         display->redraw();
     }
 }
@@ -131,12 +140,20 @@ void ModelView::showEvent(QShowEvent* event)
     attach();
 }
 
+void ModelView::hideEvent(QHideEvent* event)
+{
+    // The toolkit may destroy the native window of what it hides. Nothing must be drawn in it from now on.
+    if (!event->spontaneous()) {
+        detach();
+    }
+    QWidget::hideEvent(event);
+}
+
 bool ModelView::event(QEvent* event)
 {
     // A new native window, as after re-parenting, needs a new view.
     if (event->type() == QEvent::WinIdChange && isAttached) {
-        display->detachWindow();
-        isAttached = false;
+        detach();
         attach();
     }
     return QWidget::event(event);
@@ -168,6 +185,7 @@ void ModelView::drag(Motion kind, QPoint const& from, QPoint const& to)
 void ModelView::applyMotion()
 {
     if (isAttached) {
+        display->setMoving(true);
         display->applyCamera();
         display->redraw();
     }
@@ -221,6 +239,9 @@ void ModelView::endMotion()
 {
     motion = Motion::none;
     unsetCursor();
+    if (isAttached) {
+        display->setMoving(false);
+    }
     if (hasMoved && camera) {
         emit cameraMoved();
     }

@@ -43,6 +43,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -60,6 +61,7 @@ private:
 
     bool canDraw() const;
     void attach();
+    void detach();
     void drag(Motion kind, QPoint const& from, QPoint const& to);
     void applyMotion();
     void endMotion();

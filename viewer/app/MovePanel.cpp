@@ -35,7 +35,9 @@ MovePanel::MovePanel(QWidget* parent, std::function<void(double, double, double)
     }
     layout->addLayout(form);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    buttons->button(QDialogButtonBox::Close)->setIcon({});
     auto* undo = buttons->addButton(tr("&Back to start"), QDialogButtonBox::ResetRole);
+    undo->setIcon({});
     connect(undo, &QPushButton::clicked, this, [this] {
         for (auto* box : offsets) {
             box->setValue(0.0);

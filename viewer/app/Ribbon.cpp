@@ -16,9 +16,9 @@ Ribbon::Ribbon(QWidget* mainWindow, CommandTable& table, Hooks hooks) : commands
     bar.Create(orvplatform::windowOf(mainWindow));
     auto* category = bar.AddCategory(L"Home", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(OrvantaCategory));
     addPanel(*category, L"File", {openFile, recentFiles, closeFile, exportFile, saveViewPicture});
-    addPanel(*category, L"View", {fitAll, zoomIn, zoomOut, togglePerspective});
-    addPanel(*category, L"Standard views",
-             {viewFront, viewBack, viewLeft, viewRight, viewTop, viewBottom, viewIsometric});
+    addPanel(*category, L"View", {fitAll, togglePerspective});
+    // The other sides are on the view cube and on the keys.
+    addPanel(*category, L"Standard views", {viewFront, viewLeft, viewRight, viewTop, viewIsometric});
     addPanel(*category, L"Parts",
              {hideParts, isolateParts, showAllParts, colourParts, transparentParts, moveParts, resetParts});
     addPanel(*category, L"Options", {showOptions});

@@ -308,6 +308,8 @@ void ViewerSession::State::startMove()
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(openDocument);
     // An arrow moves by a round fraction of the model's size.
     double const step = std::pow(10.0, std::floor(std::log10(std::max(renderer->camera->radius, 0.01F) / 5.0)));
+    auto const& view = window->view();
+    movePanel->move(view.mapToGlobal(QPoint(16, 16)));
     movePanel->start(what, step);
 }
 

@@ -48,6 +48,7 @@ struct ViewerSession::State final : CommandContext {
     void closeModel();
     bool exportModel(std::wstring const& path);
     QImage picture(int width, int height);
+    void savePreview();
     bool savePicture(std::wstring const& path, int width, int height);
     bool runCommand(unsigned int id);
 

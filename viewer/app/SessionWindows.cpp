@@ -8,6 +8,7 @@
 #include "viewer/app/ModelTree.h"
 #include "viewer/app/ModelView.h"
 #include "viewer/app/OptionsSheet.h"
+#include "viewer/app/StartPage.h"
 #include "viewer/app/StatusLine.h"
 #include "viewer/commands/PartCommands.h"
 #include "viewer/commands/ViewCommands.h"
@@ -66,6 +67,9 @@ void ViewerSession::State::connectWindow()
     movePanel =
         new MovePanel(frame, [this](double x, double y, double z) { moveNodes(*this, selectedNodes, x, y, z); });
 
+    QObject::connect(&window->startPage(), &StartPage::openWanted, frame, [this] { askForModel(); });
+    QObject::connect(&window->startPage(), &StartPage::fileWanted, frame,
+                     [this](std::wstring const& path) { openModel(path); });
     QObject::connect(&view, &ModelView::picked, frame, [this](int node, bool extend) {
         auto nodes = extend ? selectedNodes : std::set<int>();
         if (node >= 0 && !nodes.erase(node)) {

@@ -13,6 +13,7 @@
 #include "viewer/app/ModelLoading.h"
 #include "viewer/app/ModelTree.h"
 #include "viewer/app/ModelView.h"
+#include "viewer/app/StartPage.h"
 #include "viewer/app/StatusLine.h"
 #include "viewer/commands/ViewCommands.h"
 
@@ -69,6 +70,9 @@ ViewerSession::State::State(orvhost::Settings settings)
     makeSideBar();
     applyPreferences(preferences);
     showFacts();
+    window->startPage().showRecent(recent);
+    // Panes build themselves on hints: this one, without a document, lets them show what they have to begin with.
+    raise(orv::HintCode::documentActivated);
     QObject::connect(&idle, &QTimer::timeout, window.get(), [this] { commands->refresh(); });
     idle.start(idleInterval);
 }
@@ -149,7 +153,6 @@ double ViewerSession::State::pictureAspect() const
 
 void ViewerSession::State::showDocument(std::shared_ptr<orv::Document> const& document)
 {
-    closeModel();
     auto link = std::make_shared<orv::SCApplication>();
     link->application = application;
     document->setSchema(orv::SCApplication::key, std::move(link));
@@ -184,11 +187,12 @@ bool ViewerSession::State::openModel(std::wstring const& path)
     }
     auto const info = orv::recordOf<orvsg::SCInfo>(result.document);
     auto const name = std::filesystem::path(info->file()).filename().wstring();
+    closeModel();
     showStatus(L"\"" + name + L"\" is open.");
+    window->showModel(QString::fromStdWString(name));
     showDocument(result.document);
-    window->showModelName(QString::fromStdWString(name));
     recent.add(info->file());
-    recent.savePreview(openDocument, picture(previewSide, previewSide));
+    savePreview();
     commands->refresh();
     ribbon->refresh();
     // The pane in front now belongs to another model: for it that is the same as being brought to the front.
@@ -213,7 +217,8 @@ void ViewerSession::State::closeModel()
         display->setDocument(nullptr);
     }
     window->view().redrawNow();
-    window->showModelName({});
+    window->startPage().showRecent(recent);
+    window->showModel({});
     showFacts();
     commands->refresh();
     ribbon->refresh();
@@ -239,6 +244,14 @@ QImage ViewerSession::State::picture(int width, int height)
         return {};
     }
     return QImage(pixels.data(), width, height, 3 * width, QImage::Format_RGB888).copy();
+}
+
+void ViewerSession::State::savePreview()
+{
+    auto const renderer = orv::recordOf<orvgl::SCRenderer>(openDocument);
+    auto const settings = std::exchange(renderer->settings, {false, false, false});
+    recent.savePreview(openDocument, picture(previewSide, previewSide));
+    renderer->settings = settings;
 }
 
 bool ViewerSession::State::savePicture(std::wstring const& path, int width, int height)

@@ -13,6 +13,7 @@
 #include <Image_PixMap.hxx>
 #include <OpenGl_GraphicDriver.hxx>
 #include <Standard_Failure.hxx>
+#include <TColStd_IndexedDataMapOfStringString.hxx>
 #include <V3d.hxx>
 #include <V3d_AmbientLight.hxx>
 #include <V3d_DirectionalLight.hxx>
@@ -21,6 +22,7 @@
 #include <Xw_Window.hxx>
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
 
 namespace orvviewer
@@ -30,8 +32,19 @@ namespace
 {
 
 constexpr int multisampling = 4;
+constexpr float coarseScale = 0.6F; ///< of the resolution, where coarse frames are slow
+constexpr std::chrono::milliseconds smoothFrame{60};
 constexpr unsigned long selectionColor = 0xE8892E; ///< packed: a clear blue
-constexpr unsigned long hoverColor = 0xF2B878;
+constexpr unsigned long hoverColor = 0xE6B98C;
+
+bool drawsInSoftware(Handle(V3d_View) const& view)
+{
+    TColStd_IndexedDataMapOfStringString facts;
+    view->DiagnosticInformation(facts, Graphic3d_DiagnosticInfo_Device);
+    TCollection_AsciiString renderer;
+    facts.FindFromKey("GLdevice", renderer);
+    return renderer.Search("llvmpipe") > 0 || renderer.Search("softpipe") > 0;
+}
 
 void setUpLights(Handle(V3d_Viewer) const& viewer)
 {
@@ -80,12 +93,19 @@ struct SceneDisplay::State {
     std::unique_ptr<ScenePresentations> presentations;
     std::shared_ptr<orv::IDocument> document;
     std::set<int> selection;
+    int screenWidth = 0; ///< of the window when it was last looked at, pixels
+    int screenHeight = 0;
     bool isDark = false;
+    bool isCoarse = false;
+    bool isSoftware = false;
+    bool isSlow = false; ///< the last coarse frame took too long
 
     Handle(V3d_View) makeView(int width, int height, Handle(Xw_Window) window);
     Handle(AIS_ViewCube) makeCube(Handle(V3d_View) const& view);
     void makeFrameView();
     void keepCubesApart();
+    void followWindow();
+    void drawScreen();
 };
 
 Handle(V3d_View) SceneDisplay::State::makeView(int width, int height, Handle(Xw_Window) window)
@@ -124,6 +144,38 @@ void SceneDisplay::State::makeFrameView()
     frameCube = makeCube(frameView);
     context->Deactivate(frameCube);
     keepCubesApart();
+}
+
+void SceneDisplay::State::followWindow()
+{
+    int width = 0;
+    int height = 0;
+    screenView->Window()->Size(width, height);
+    if (width != screenWidth || height != screenHeight) {
+        screenWidth = width;
+        screenHeight = height;
+        screenView->Window()->DoResize();
+        screenView->MustBeResized();
+        if (auto const renderer = orv::recordOf<orvgl::SCRenderer>(document)) {
+            applyToCamera(*renderer->camera, static_cast<double>(std::max(width, 1)) / std::max(height, 1),
+                          screenView->Camera());
+        }
+    }
+}
+
+void SceneDisplay::State::drawScreen()
+{
+    // The display may give the window its size later than the toolkit says.
+    followWindow();
+    auto& parameters = screenView->ChangeRenderingParams();
+    parameters.NbMsaaSamples = isCoarse ? 0 : multisampling;
+    parameters.RenderResolutionScale = isCoarse && isSlow ? coarseScale : 1.0F;
+    screenView->InvalidateImmediate();
+    auto const start = std::chrono::steady_clock::now();
+    screenView->Redraw();
+    if (isCoarse) {
+        isSlow = isSlow || std::chrono::steady_clock::now() - start > smoothFrame;
+    }
 }
 
 SceneDisplay::SceneDisplay(std::unique_ptr<State> initial) : state(std::move(initial)) {}
@@ -168,8 +220,14 @@ void SceneDisplay::attachWindow(unsigned long window)
     Handle(Xw_Window) const native = new Xw_Window(state->connection, window);
     state->screenView = state->makeView(0, 0, native);
     state->screenCube = state->makeCube(state->screenView);
+    state->screenWidth = state->screenHeight = 0;
     state->keepCubesApart();
     setBackground(state->screenView, state->isDark);
+    state->isSoftware = drawsInSoftware(state->screenView);
+    if (state->isSoftware) {
+        // Light computed at the vertices takes half the time; the triangles are fine enough for it.
+        state->screenView->SetShadingModel(Graphic3d_TOSM_VERTEX);
+    }
     applyCamera();
 }
 
@@ -183,20 +241,16 @@ void SceneDisplay::detachWindow()
     }
 }
 
-void SceneDisplay::resize()
+void SceneDisplay::setMoving(bool moving)
 {
-    if (!state->screenView.IsNull()) {
-        state->screenView->Window()->DoResize();
-        state->screenView->MustBeResized();
-        applyCamera();
-    }
+    state->isCoarse = moving && state->isSoftware;
+    state->isSlow = state->isSlow && moving;
 }
 
 void SceneDisplay::redraw()
 {
     if (!state->screenView.IsNull()) {
-        state->screenView->InvalidateImmediate();
-        state->screenView->Redraw();
+        state->drawScreen();
     }
 }
 

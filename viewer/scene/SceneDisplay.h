@@ -32,8 +32,9 @@ public:
     /// Shows the scene in a window of the display, by its number. Detach before the window goes.
     void attachWindow(unsigned long window);
     void detachWindow();
-    void resize();
-    void redraw();
+    void redraw(); ///< at the window's size of now
+    /// While the view is in motion and drawn without a graphics card it is drawn coarsely, for speed.
+    void setMoving(bool moving);
     double aspect() const; ///< width to height of the window; 1 without one
 
     /// Null shows nothing. The document's records must be complete.
