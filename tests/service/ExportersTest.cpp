@@ -50,7 +50,7 @@ TEST_F(Exporters, GetSevenSettingsInOrder)
     std::vector<std::pair<std::wstring, std::string>> settings;
     auto const preferences = exportPreferences();
     for (auto const& [value, ui] : preferences->entries()) {
-        EXPECT_FALSE(ui);
+        EXPECT_FALSE(ui); // nobody is asked about them
         if (auto const* flag = dynamic_cast<Switch const*>(value.get())) {
             settings.emplace_back(value->name(), flag->get() ? "true" : "false");
         } else if (auto const* choice = dynamic_cast<Choice const*>(value.get())) {
@@ -90,6 +90,35 @@ TEST_F(Exporters, AreLoadedInTheirOrder)
     ASSERT_TRUE(manager->getPlugin(L"/models/part.orvanta"));
     EXPECT_STREQ(manager->getPlugin(L"/models/part.orvanta")->getName(), L"native");
     EXPECT_FALSE(manager->getPlugin(L"/models/part.unknown"));
+}
+
+TEST_F(Exporters, AreElevenAndTheNativeFormatsComesFirst)
+{
+    // One library under every name that the viewer ships, and under some that nobody asks for.
+    std::filesystem::path const named = std::filesystem::path(ORV_TEST_LIBRARIES) / "named/export/named.so";
+    std::filesystem::path const shipped = environment.data / "shipped";
+    std::filesystem::create_directories(shipped / "export");
+    for (std::string const name :
+         {"3dswriter", "aaawriter", "bomwriter", "colladawriter", "imgwriter", "objwriter", "orvwriter", "pdfwriter",
+          "pptwriter", "prcdelaywriter", "prcwriter", "stlwriter", "xmlwriter", "zzzwriter"}) {
+        std::filesystem::copy_file(named, shipped / "export" / (name + ".so"));
+    }
+    EXPECT_THAT(namesOf(*loadFrom(shipped.string())),
+                ElementsAre(L"orvwriter", L"3dswriter", L"bomwriter", L"imgwriter", L"objwriter", L"stlwriter",
+                            L"pdfwriter", L"prcwriter", L"xmlwriter", L"colladawriter", L"pptwriter"));
+}
+
+TEST_F(Exporters, FindWhatTheyDependOnInTheDeferredDirectory)
+{
+    SetDllDirectoryW(nullptr);
+    ASSERT_EQ(LoadLibraryW(L"prcdelaywriter.dll"), nullptr) << "a bare name, found nowhere";
+    loadFrom("good");
+    HMODULE const library = LoadLibraryW(L"prcdelaywriter.dll"); // also after the exporters are loaded
+    EXPECT_NE(library, nullptr);
+    FreeLibrary(library);
+    loadFrom("nothing here"); // the directory goes with the viewer's
+    EXPECT_EQ(LoadLibraryW(L"prcdelaywriter.dll"), nullptr);
+    SetDllDirectoryW(nullptr);
 }
 
 TEST_F(Exporters, ThatAreUnusableAreSkippedAndTheNextIsTried)

@@ -315,6 +315,37 @@ TEST_F(Push, WithPreviewShowsItsCourse)
     EXPECT_EQ(orvplatform::waitCursorDepth(), 0);
 }
 
+TEST_F(Push, WithPreviewSpeaksThroughTheApplicationThatItIsGiven)
+{
+    auto const documents = std::make_shared<orvtest::RecordingApplication>();
+    scene->application->application = documents;
+    network.expect("/api/Upload/", "native-job");
+    network.expect("/api/Upload/", job);
+    pushWithPreview();
+    EXPECT_THAT(documents->events, IsEmpty());
+    EXPECT_EQ(application->statuses().back(), "gear.box.step" + uploaded);
+
+    network.expect("/api/Upload/", "native-job");
+    network.expect("/api/Upload/", job);
+    EXPECT_EQ(helper.pushWithPreview(scene->document, nullptr, user), orvtext::fromUtf8(job));
+    EXPECT_THAT(documents->events, IsEmpty());
+}
+
+TEST_F(Push, WithPreviewLoadsTheExportersAnew)
+{
+    auto const push = [this] {
+        network.expect("/api/Upload/", "native-job");
+        network.expect("/api/Upload/", job);
+        pushWithPreview();
+        return network.sent().at(network.sent().size() - 2).hadFile;
+    };
+    EXPECT_FALSE(push());
+    environment.setLibraries(ORV_TEST_LIBRARIES "/good"); // installed in the meantime
+    EXPECT_TRUE(push());
+    environment.setLibraries(ORV_TEST_LIBRARIES "/nothing here");
+    EXPECT_FALSE(push());
+}
+
 TEST_F(Push, WithPreviewSendsThePictureOfAPart)
 {
     scene->info->documentKind = orvsg::SCInfo::part;
