@@ -31,21 +31,22 @@ Answer logIn(const Call& call)
         answer.headers.emplace_back("Retry-After", std::to_string(wait));
         return answer;
     }
-    const auto account = parts.store.findAccount(email);
-    if (!passwordFits(parts, account, password))
-        return fail(401, "The e-mail address or the password is wrong.");
+    const std::int64_t now = parts.clock();
+    const std::string token = randomUuid();
+    const std::string secret = randomSecret();
+    std::optional<Account> account;
+    do { // once more if the password was changed meanwhile
+        account = parts.store.findAccount(email);
+        if (!passwordFits(parts, account, password))
+            return fail(401, "The e-mail address or the password is wrong.");
+    } while (!parts.store.addSession(*account, hashOf(token), hashOf(secret), now));
     parts.throttle.succeeded(email, call.head.peer);
     if (parts.passwords.isOutdated(account->passwordHash))
-        parts.store.setPasswordHash(account->id, parts.passwords.hash(password));
-
-    const std::int64_t now = parts.clock();
+        parts.store.renewPasswordHash(account->id, account->passwordHash, parts.passwords.hash(password));
     parts.store.dropSessionsUnusedSince(now - sessionLength);
     // The new cookie takes the old one's place in the client, so nobody could end the old session any more.
     if (!call.head.cookie.empty())
         parts.store.endSessionOfCookie(hashOf(call.head.cookie));
-    const std::string token = randomUuid();
-    const std::string secret = randomSecret();
-    parts.store.addSession(account->id, hashOf(token), hashOf(secret), now);
     Answer answer = succeed(token);
     answer.headers.emplace_back("Set-Cookie", cookie(secret, sessionLength, parts.secureCookies));
     return answer;

@@ -21,7 +21,7 @@ Answer fail(unsigned status, std::string sentence)
 {
     Answer answer;
     answer.status = status;
-    answer.body = std::move(sentence);
+    answer.body = oneLine(std::move(sentence));
     return answer;
 }
 

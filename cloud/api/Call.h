@@ -23,7 +23,7 @@ struct Call {
 };
 
 Answer succeed(std::string body);
-/// A failure with its sentence, which tells the client what to do next.
+/// A failure with its sentence, which tells the client what to do next. It becomes one line, whatever it quotes.
 Answer fail(unsigned status, std::string sentence);
 /// For a model that isn't there and for one that the sender may not see. Nobody can tell one from the other.
 Answer noSuchModel();

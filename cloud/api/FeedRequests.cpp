@@ -24,7 +24,13 @@ Answer readFeed(const Call& call)
     if (!model)
         return noSuchModel();
     FeedText feed;
-    call.parts.store.readFeed(model->modelId, [&](std::string_view record) { return feed.add(record); });
+    // A client tells its user's own comments by comparing the address with the one that was typed at the login.
+    const std::string& spelling = call["username"];
+    const bool respells = spelling != call.account.email;
+    call.parts.store.readFeed(model->modelId, [&](std::string_view record, std::int64_t author) {
+        return feed.add(respells && author == call.account.id ? withAuthorsAddress(record, spelling)
+                                                              : std::string(record));
+    });
     Answer answer = succeed(feed.finish());
     answer.contentType = "application/json";
     return answer;
@@ -37,14 +43,17 @@ Answer addComment(const Call& call)
         return noSuchModel();
     if (!isCommentId(call["commentid"]))
         return fail(400, "The comment's id can't be used; give it a new GUID.");
-    auto record = prepareRecord(withPlusSigns(call["comment"]), call.account, call.head.bearer);
+    auto record = prepareRecord(withPlusSigns(call["comment"]),
+                                {call.account, call.head.bearer, call["jobid"], call["commentid"]});
     if (const auto* refusal = std::get_if<RecordRefusal>(&record))
         return fail(400, refusal->sentence);
-    const auto change =
-        call.parts.store.putComment(model->modelId, call.account.id,
-                                    {call["commentid"], std::move(std::get<std::string>(record))}, call.parts.clock());
+    const auto change = call.parts.store.putComment(model->modelId, call.account.id,
+                                                    {call["commentid"], std::move(std::get<std::string>(record))},
+                                                    call.parts.commentQuota, call.parts.clock());
     if (change == CommentChange::refused)
         return fail(409, "This comment's id belongs to somebody else's comment; give the comment a new one.");
+    if (change == CommentChange::overQuota)
+        return fail(413, "Your comments take all the room that they may in this model's feed; delete some of them.");
     return succeed("ok");
 }
 

@@ -27,6 +27,7 @@ struct Parts {
     std::string mailSender; ///< the service's own mail address
     bool secureCookies = false;
     std::uint64_t uploadBytes = 0;
+    CommentQuota commentQuota;
 };
 
 /// A session ends when it wasn't used for this long, in seconds.

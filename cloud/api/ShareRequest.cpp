@@ -31,8 +31,7 @@ Answer shareModel(const Call& call)
         if (address.empty())
             continue;
         if (!isMailAddress(address))
-            return fail(400,
-                        "\"" + std::string(address.substr(0, 254)) + "\" isn't an e-mail address; nobody was invited.");
+            return fail(400, "\"" + std::string(cut(address, 254)) + "\" isn't an e-mail address; nobody was invited.");
         if (known.insert(lowerAscii(address)).second)
             addresses.emplace_back(address);
     }

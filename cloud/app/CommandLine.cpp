@@ -1,7 +1,9 @@
 #include "cloud/app/CommandLine.h"
 
 #include "cloud/app/Users.h"
+#include "cloud/base/Address.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <exception>
@@ -10,6 +12,7 @@
 #include <map>
 #include <ostream>
 #include <set>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace orvcloud
@@ -19,12 +22,14 @@ namespace
 constexpr const char* helpText = R"(orvanta-cloud keeps models and their comments for Orvanta.
 
   orvanta-cloud serve --data DIR [--listen ADDR] [--public-url URL] [--smtp URL] [--mail-from ADDRESS]
-                      [--tls-cert FILE --tls-key FILE] [--api-id ID] [--api-key KEY]
+                      [--tls-cert FILE --tls-key FILE] [--behind-proxy] [--api-id ID] [--api-key KEY]
   orvanta-cloud user add EMAIL --name NAME --password-stdin --data DIR
   orvanta-cloud user password EMAIL --password-stdin --data DIR
   orvanta-cloud user list --data DIR
 
 serve     listens on ADDR (127.0.0.1:8640; port 0 picks a free one) until it gets SIGTERM.
+          Others than this machine itself are served over TLS alone: give a certificate, or say with --behind-proxy
+          that a proxy which speaks TLS stands in front. The proxy must add its client's address to X-Forwarded-For.
           Without --smtp invitations are left as files in DIR/outbox. An SMTP user stands in the URL, its
           password in the environment variable ORVANTA_SMTP_PASSWORD.
 user      manages the accounts, also while the service runs. The password is the first line of standard input.
@@ -80,8 +85,16 @@ std::optional<Command> readServe(const std::vector<std::string>& arguments, std:
         {"--smtp", &config.smtpUrl}, {"--mail-from", &config.mailSender}, {"--tls-cert", &config.tlsCertificate},
         {"--api-id", &config.apiId}, {"--api-key", &config.apiKey},       {"--tls-key", &config.tlsKey},
     };
-    if (!readOptions(arguments, 1, options, {}, given, error) || !requireOptions(given, {"--data"}, error))
+    if (!readOptions(arguments, 1, options, {"--behind-proxy"}, given, error) ||
+        !requireOptions(given, {"--data"}, error))
         return std::nullopt;
+    config.behindProxy = given.contains("--behind-proxy");
+    if (!config.behindProxy && config.tlsCertificate.empty() && !isLoopbackHost(hostOfAddress(config.listen))) {
+        error =
+            "Passwords would cross the network in plain text: give --tls-cert and --tls-key, or --behind-proxy if a "
+            "proxy that speaks TLS stands in front.";
+        return std::nullopt;
+    }
     if (!config.publicUrl.empty() && !config.publicUrl.starts_with("http://") &&
         !config.publicUrl.starts_with("https://")) {
         error = "--public-url takes an address that begins with https:// or http://.";
@@ -131,6 +144,17 @@ std::optional<Command> readUser(const std::vector<std::string>& arguments, std::
     return command;
 }
 
+/// As many as the system concedes, within reason: each connection takes one and an upload two.
+void allowManyDescriptors()
+{
+    constexpr rlim_t wanted = 8192;
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur >= wanted)
+        return;
+    limit.rlim_cur = std::min(wanted, limit.rlim_max);
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+}
+
 int serve(Config config, std::ostream& out, std::ostream& err)
 {
     // Blocked before any thread is made, so that the signal reaches nobody but sigwait.
@@ -140,6 +164,7 @@ int serve(Config config, std::ostream& out, std::ostream& err)
     sigaddset(&signals, SIGINT);
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
+    allowManyDescriptors();
     if (const char* password = std::getenv("ORVANTA_SMTP_PASSWORD"))
         config.smtpPassword = password;
     config.log = [&err](const std::string& line) { err << line + "\n" << std::flush; };

@@ -5,6 +5,7 @@
 #include "cloud/http/Server.h"
 #include "cloud/store/SqliteStore.h"
 
+#include <mutex>
 #include <stdexcept>
 #include <utility>
 
@@ -56,7 +57,7 @@ public:
         mailer = makeMailer({config.dataDirectory, config.smtpUrl, config.smtpPassword, config.mailSender, config.log});
         application.api = std::make_unique<Api>(Parts{
             *store, vault, *mailer, passwords, throttle, config.clock, config.apiId, config.apiKey, config.publicUrl,
-            config.mailSender, config.publicUrl.starts_with("https://"), config.limits.uploadBytes});
+            config.mailSender, usersComeOverTls(), config.limits.uploadBytes, config.commentQuota});
         store->dropSessionsUnusedSince(config.clock() - sessionLength);
         server->start();
     }
@@ -73,11 +74,20 @@ private:
 
     void listen()
     {
-        if (!config.log)
-            config.log = [](const std::string&) {};
+        // Connections and the mailer write lines at the same time.
+        config.log = [sink = std::move(config.log), mutex = std::make_shared<std::mutex>()](const std::string& line) {
+            const std::lock_guard guard(*mutex);
+            if (sink)
+                sink(line);
+        };
         server = std::make_unique<Server>(ServerSettings{config.listen, config.tlsCertificate, config.tlsKey,
-                                                         config.limits, config.log, config.clock},
+                                                         config.limits, config.behindProxy, config.log, config.clock},
                                           application);
+    }
+
+    bool usersComeOverTls() const
+    {
+        return config.behindProxy || !config.tlsCertificate.empty() || config.publicUrl.starts_with("https://");
     }
 
     std::string scheme() const { return config.tlsCertificate.empty() ? "http://" : "https://"; }

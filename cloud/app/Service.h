@@ -3,6 +3,7 @@
 #include "cloud/accounts/Passwords.h"
 #include "cloud/base/Text.h"
 #include "cloud/http/Limits.h"
+#include "cloud/store/Store.h"
 
 #include <filesystem>
 #include <functional>
@@ -22,12 +23,14 @@ struct Config {
     std::string mailSender;     ///< empty: "no-reply" at the public address's host
     std::string tlsCertificate; ///< PEM files; empty for plain HTTP
     std::string tlsKey;
+    bool behindProxy = false; ///< a proxy that speaks TLS stands in front and names its clients in X-Forwarded-For
     std::string apiId = ORVANTA_API_ID;
     std::string apiKey = ORVANTA_API_KEY;
     HashCost hashCost;
     Limits limits;
+    CommentQuota commentQuota;
     Clock clock = systemClock();
-    std::function<void(const std::string&)> log;
+    std::function<void(const std::string&)> log; ///< one line each; called from any thread, one call at a time
 };
 
 /// The whole service in one object. It runs from its construction to `stop` or its destruction.

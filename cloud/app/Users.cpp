@@ -55,8 +55,7 @@ void setPassword(const Config& config, const std::string& email, const std::stri
     const auto account = store->findAccount(email);
     if (!account)
         throw std::runtime_error("There is no account for " + email + "; \"orvanta-cloud user add\" makes one.");
-    store->setPasswordHash(account->id, Passwords(config.hashCost).hash(password));
-    store->endSessionsOf(account->id);
+    store->changePassword(account->id, Passwords(config.hashCost).hash(password));
 }
 
 std::vector<Account> listUsers(const Config& config)

@@ -77,6 +77,22 @@ std::string_view trimmed(std::string_view text)
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+std::string_view cut(std::string_view text, std::size_t mostBytes)
+{
+    std::size_t length = std::min(text.size(), mostBytes);
+    while (length > 0 && length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
+        --length;
+    return text.substr(0, length);
+}
+
+std::string oneLine(std::string text)
+{
+    for (char& c : text)
+        if (hasControlCharacter({&c, 1}))
+            c = '?';
+    return text;
+}
+
 std::vector<std::string_view> split(std::string_view text, std::string_view separators)
 {
     std::vector<std::string_view> pieces;

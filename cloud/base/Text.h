@@ -28,6 +28,12 @@ std::string lowerAscii(std::string_view text);
 /// Without blanks, tabs and line ends at either side.
 std::string_view trimmed(std::string_view text);
 
+/// The longest beginning of at most `mostBytes` bytes that ends between characters. The text is UTF-8.
+std::string_view cut(std::string_view text, std::size_t mostBytes);
+
+/// With a question mark for every control character, so that the text is one line.
+std::string oneLine(std::string text);
+
 std::vector<std::string_view> split(std::string_view text, std::string_view separators);
 
 /// A text enclosed in quotation marks as JSON writes it, ASCII only. The text is UTF-8 without NUL.

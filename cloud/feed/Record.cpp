@@ -1,12 +1,13 @@
 #include "cloud/feed/Record.h"
 
 #include "cloud/base/Text.h"
+#include "cloud/feed/JsonCheck.h"
 #include "cloud/feed/RecordReader.h"
 
-#include <algorithm>
 #include <json/reader.h>
 #include <json/writer.h>
 #include <memory>
+#include <mutex>
 
 namespace orvcloud
 {
@@ -35,12 +36,8 @@ std::string written(const Json::Value& value)
 }
 
 /// The record's text with another author in it. The rest isn't written anew, so numbers keep their digits.
-std::string withAuthor(std::string_view text, const Json::Value& root, const Account& account)
+std::string withAuthor(std::string_view text, const Json::Value& root, const Json::Value& author)
 {
-    Json::Value author = root.isMember("author") ? root["author"] : Json::Value();
-    author["id"] = account.publicId;
-    author["name"] = account.name;
-    author["email"] = account.email;
     std::string result;
     result.reserve(text.size() + 256);
     if (root.isMember("author")) {
@@ -53,6 +50,21 @@ std::string withAuthor(std::string_view text, const Json::Value& root, const Acc
         result.append(root.empty() ? "" : ",").append(text.substr(begin));
     }
     return result;
+}
+
+/// A tree takes many times its text's room, so large ones are made one after the other.
+std::unique_lock<std::mutex> waitForRoom(std::string_view text)
+{
+    static std::mutex one;
+    constexpr std::size_t large = 256 * 1024;
+    return text.size() > large ? std::unique_lock(one) : std::unique_lock<std::mutex>();
+}
+
+/// True if the member is there and says something else.
+bool contradicts(const Json::Value& parent, const char* member, std::string_view expected)
+{
+    const Json::Value& value = parent[member];
+    return !value.isNull() && value.asString() != expected;
 }
 
 /// Holds every text of a value, members' names too, against a condition.
@@ -70,32 +82,53 @@ bool everyText(const Json::Value& value, const Condition& holds)
 }
 } // namespace
 
-std::variant<std::string, RecordRefusal> prepareRecord(std::string_view value, const Account& account,
-                                                       std::string_view token)
+std::variant<std::string, RecordRefusal> prepareRecord(std::string_view value, const RecordOrigin& origin)
 {
+    const RecordRefusal notJson{"The comment isn't a JSON object in UTF-8."};
     if (value.size() > largestRecord)
         return RecordRefusal{"The comment is larger than 4 MiB; leave out the picture or make it smaller."};
-    const bool isText = std::all_of(value.begin(), value.end(), [](char c) {
-        return static_cast<unsigned char>(c) >= 0x20 || c == '\n' || c == '\r' || c == '\t';
-    });
-    Json::Value root;
-    if (!isText || !isUtf8(value) || !trimmed(value).starts_with('{') || !parse(value, root))
-        return RecordRefusal{"The comment isn't a JSON object in UTF-8."};
-    if (root.isMember("author") && !root["author"].isObject() && !root["author"].isNull())
-        return RecordRefusal{"The comment's author isn't an object."};
+    if (!isUtf8(value) || !trimmed(value).starts_with('{') || !isPlainJson(value))
+        return notJson;
 
-    std::string record = withAuthor(value, root, account);
+    const auto room = waitForRoom(value);
+    std::string record;
+    {
+        Json::Value root;
+        if (!parse(value, root))
+            return notJson;
+        Json::Value author = root.isMember("author") ? root["author"] : Json::Value();
+        if (!author.isObject() && !author.isNull())
+            return RecordRefusal{"The comment's author isn't an object."};
+        author["id"] = origin.author.publicId;
+        author["name"] = origin.author.name;
+        author["email"] = origin.author.email;
+        record = withAuthor(value, root, author);
+    }
     Json::Value stored;
     if (!parse(record, stored))
-        return RecordRefusal{"The comment isn't a JSON object in UTF-8."};
-    if (auto reason = unreadable(stored))
-        return RecordRefusal{std::move(*reason)};
+        return notJson;
     if (!everyText(stored, isUtf8))
         return RecordRefusal{"The comment holds half of a surrogate pair."};
-    const auto keepsSecret = [token](std::string_view text) { return text.find(token) == std::string_view::npos; };
-    if (!token.empty() && !everyText(stored, keepsSecret))
+    const auto keepsSecret = [&](std::string_view text) { return text.find(origin.token) == std::string_view::npos; };
+    if (!origin.token.empty() && !everyText(stored, keepsSecret))
         return RecordRefusal{"The comment holds the session's token, which is a secret; leave it out."};
+    if (auto reason = unreadable(stored))
+        return RecordRefusal{std::move(*reason)};
+    if (contradicts(stored["file"], "id", origin.jobId) ||
+        contradicts(stored["commentcontent"], "id", origin.commentId))
+        return RecordRefusal{"The comment names another model or comment than its request; send it again as it is."};
     return record;
+}
+
+std::string withAuthorsAddress(std::string_view record, std::string_view email)
+{
+    const auto room = waitForRoom(record);
+    Json::Value root;
+    if (!parse(record, root) || !root["author"].isObject())
+        return std::string(record);
+    Json::Value author = root["author"];
+    author["email"] = std::string(email);
+    return withAuthor(record, root, author);
 }
 
 std::string withPlusSigns(std::string_view value)

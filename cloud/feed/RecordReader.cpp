@@ -74,7 +74,7 @@ private:
 };
 } // namespace
 
-std::optional<std::string> unreadable(Json::Value record)
+std::optional<std::string> unreadable(Json::Value& record)
 {
     try {
         Reading(record).readAll();

@@ -2,6 +2,8 @@
 
 #include "cloud/base/Text.h"
 #include "cloud/http/HeadCheck.h"
+#include "cloud/http/Pace.h"
+#include "cloud/http/Peer.h"
 #include "cloud/store/StoreError.h"
 
 #include <boost/asio/as_tuple.hpp>
@@ -83,8 +85,7 @@ class Connection
 {
 public:
     Connection(Stream&& open, ServerState& shared, const asio::ip::address& peer)
-        : stream(std::move(open)), state(shared), peerAddress(peer.to_string()), peerIsLoopback(peer.is_loopback()),
-          buffer(pieceSize)
+        : stream(std::move(open)), state(shared), connected(peer), client(peer), buffer(pieceSize)
     {
         buffer.reserve(pieceSize);
     }
@@ -129,6 +130,8 @@ private:
         began = std::chrono::steady_clock::now();
         logged = "-";
         method = "-";
+        client = connected;
+        bodiless = false;
         Parser parser;
         parser.header_limit(limits().headerBytes);
         parser.body_limit(boost::none); // held against the admission's limit below
@@ -138,6 +141,7 @@ private:
             noteTimeout(error); // the stream closes itself at a deadline, so nothing can be answered
             co_return false;
         }
+        bodiless = parser.get().method() == http::verb::head;
         if (error == http::error::end_of_stream || error == http::error::partial_message)
             co_return false;
         if (error) {
@@ -154,8 +158,10 @@ private:
         }
 
         RequestHead head = readHead(message);
-        head.peer = peerAddress;
-        head.peerIsLoopback = peerIsLoopback;
+        if (state.settings.behindProxy)
+            client = clientOf(head.forwardedFor, connected);
+        head.peer = client.to_string();
+        head.peerIsLoopback = client.is_loopback();
         Admission admission = co_await runOn(state.workers, [this, &head] {
             Admission made;
             const Answer failed = guarded(state, [&] {
@@ -202,8 +208,8 @@ private:
     {
         const auto took =
             std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - began).count();
-        state.log(isoTime(state.settings.clock()) + " " + peerAddress + " " + method + " " + logged + " " + outcome +
-                  " " + std::to_string(took) + " ms");
+        state.log(isoTime(state.settings.clock()) + " " + client.to_string() + " " + method + " " + logged + " " +
+                  outcome + " " + std::to_string(took) + " ms");
     }
 
     asio::awaitable<bool> sendContinue()
@@ -219,8 +225,7 @@ private:
     {
         std::vector<char> piece(static_cast<std::size_t>(
             std::min<std::uint64_t>(pieceSize, parser.content_length_remaining().value_or(0))));
-        auto stretchBegan = std::chrono::steady_clock::now();
-        std::uint64_t stretchBytes = 0;
+        Pace pace(limits().transfer, limits().slowestBytesPerSecond, std::chrono::steady_clock::now());
         std::size_t filled = 0;
         while (!parser.is_done()) {
             auto& body = parser.get().body();
@@ -237,21 +242,15 @@ private:
             }
             const std::size_t got = piece.size() - filled - parser.get().body().size;
             filled += got;
-            stretchBytes += got;
             const auto now = std::chrono::steady_clock::now();
-            if (now - stretchBegan >= limits().transfer) {
-                const auto seconds = std::chrono::duration<double>(now - stretchBegan).count();
-                if (static_cast<double>(stretchBytes) < seconds * static_cast<double>(limits().slowestBytesPerSecond))
-                    co_return failureOf(408, "The request's body came too slowly.");
-                stretchBegan = now;
-                stretchBytes = 0;
-            }
+            if (!pace.keepsUp(got, now))
+                co_return failureOf(408, "The request's body came too slowly.");
             if (filled == piece.size() || parser.is_done()) {
                 auto early = co_await give(sink, std::string_view(piece.data(), filled));
                 filled = 0;
                 if (early)
                     co_return early;
-                stretchBegan += std::chrono::steady_clock::now() - now; // the sink's time isn't the client's
+                pace.skip(std::chrono::steady_clock::now() - now); // the sink's time isn't the client's
             }
         }
         co_return std::nullopt;
@@ -299,6 +298,11 @@ private:
     asio::awaitable<bool> answer(Answer given, bool keepAlive)
     {
         const bool goesOn = keepAlive && !state.stopping;
+        const ServerState::Held held(state, given.body.size());
+        if (!held.fits()) {
+            given = failureOf(503, "Too many large answers are under way; try again in a moment.");
+            given.headers.emplace_back("Retry-After", "10");
+        }
         http::response<http::string_body> response(static_cast<http::status>(given.status), 11);
         response.set(http::field::server, "orvanta-cloud");
         response.set(http::field::date, httpTime(state.settings.clock()));
@@ -311,13 +315,18 @@ private:
         response.body() = std::move(given.body);
         response.prepare_payload();
         const std::size_t size = response.body().size();
+        if (bodiless)
+            response.body().clear(); // the length stays the one that GET would have
+        const auto longest = static_cast<std::uint64_t>(limits().longestAnswer.count());
+        Pace pace(limits().transfer, std::max(limits().slowestBytesPerSecond, size / longest),
+                  std::chrono::steady_clock::now());
 
         http::response_serializer<http::string_body> serializer(response);
         bool sent = true;
         while (sent && !serializer.is_done()) {
             lowest().expires_after(limits().transfer);
             const auto [error, count] = co_await http::async_write_some(stream, serializer, noThrow);
-            sent = !error;
+            sent = !error && (serializer.is_done() || pace.keepsUp(count, std::chrono::steady_clock::now()));
         }
         note(std::to_string(given.status) + " " + std::to_string(size) + " bytes" + (sent ? "" : " undelivered"));
         co_return sent&& goesOn;
@@ -345,36 +354,37 @@ private:
 
     Stream stream;
     ServerState& state;
-    std::string peerAddress;
-    bool peerIsLoopback;
+    asio::ip::address connected; // the other end of the connection
+    asio::ip::address client;    // whom the request at hand comes from
     beast::flat_buffer buffer;
     std::chrono::steady_clock::time_point began;
     std::string method;
     std::string logged;
     bool aborted = false;
+    bool bodiless = false; // what answers HEAD has no body, a failure neither
 };
 } // namespace
 
 asio::awaitable<void> serveConnection(asio::ip::tcp::socket socket, ServerState& state, asio::ssl::context* tls)
 {
-    struct Counted {
-        std::atomic<std::size_t>& count;
-        explicit Counted(std::atomic<std::size_t>& counter) : count(counter) { ++count; }
-        ~Counted() { --count; }
-    } counted(state.connections);
     try {
         error_code error;
-        const auto peer = socket.remote_endpoint(error);
-        if (error || state.connections > state.settings.limits.connections)
+        const auto endpoint = socket.remote_endpoint(error);
+        if (error)
+            co_return;
+        const asio::ip::address peer = plainAddress(endpoint.address());
+        const ConnectionCount::Entry entry(state.connections, peer.to_string(),
+                                           peer.is_loopback() || state.settings.behindProxy);
+        if (!entry.isFree())
             co_return;
         socket.set_option(asio::ip::tcp::no_delay(true), error);
         beast::tcp_stream plain(std::move(socket));
         if (tls) {
             Connection<beast::ssl_stream<beast::tcp_stream>> connection(
-                beast::ssl_stream<beast::tcp_stream>(std::move(plain), *tls), state, peer.address());
+                beast::ssl_stream<beast::tcp_stream>(std::move(plain), *tls), state, peer);
             co_await connection.serve();
         } else {
-            Connection<beast::tcp_stream> connection(std::move(plain), state, peer.address());
+            Connection<beast::tcp_stream> connection(std::move(plain), state, peer);
             co_await connection.serve();
         }
     } catch (const std::exception& error) {

@@ -23,7 +23,8 @@ struct RequestHead {
     std::string cookie; ///< the value of the session cookie, empty without one
     std::string contentType;
     std::uint64_t contentLength = 0;
-    std::string peer; ///< the other side's address without port
+    std::string forwardedFor; ///< the last address in X-Forwarded-For as it was sent; empty without one
+    std::string peer;         ///< the other side's address without port
     bool peerIsLoopback = false;
 };
 

@@ -94,6 +94,10 @@ RequestHead readHead(const HttpHeader& header)
         head.bearer = trimmed(authorization.substr(scheme.size()));
     head.cookie = cookieIn(valueOf(header, http::field::cookie), "orvanta_session");
     head.contentType = valueOf(header, http::field::content_type);
+    // A proxy adds the address that it was asked from at the end; whatever stands before it is the client's word.
+    const auto forwarded = header.equal_range("X-Forwarded-For");
+    for (auto field = forwarded.first; field != forwarded.second; ++field)
+        head.forwardedFor = trimmed(split(view(field->value()), ",").back());
     head.contentLength = lengthIn(valueOf(header, http::field::content_length)).value_or(0);
     return head;
 }

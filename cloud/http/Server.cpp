@@ -45,7 +45,8 @@ class Server::Impl
 {
 public:
     Impl(ServerSettings settings, Application& application)
-        : state(std::move(settings), application), context(static_cast<int>(threadCount)), acceptor(context)
+        : state(std::move(settings), application), context(static_cast<int>(threadCount)),
+          acceptor(asio::make_strand(context))
     {
         openTls();
         const auto endpoint = resolve(context, state.settings.listen);
@@ -57,13 +58,16 @@ public:
             acceptor.listen(tcp::acceptor::max_listen_connections, error);
         if (error)
             throw std::runtime_error("Can't listen on " + state.settings.listen + ": " + error.message() + ".");
+        const auto bound = acceptor.local_endpoint();
+        const auto host = bound.address().to_string();
+        boundAddress = (bound.address().is_v6() ? "[" + host + "]" : host) + ":" + std::to_string(bound.port());
     }
 
     ~Impl() { stop(); }
 
     void start()
     {
-        asio::co_spawn(context, acceptAll(), asio::detached);
+        asio::co_spawn(acceptor.get_executor(), acceptAll(), asio::detached);
         for (std::size_t i = 0; i < threadCount; ++i)
             threads.emplace_back([this] { runLoop(); });
     }
@@ -73,7 +77,7 @@ public:
         if (threads.empty())
             return;
         state.stopping = true;
-        asio::post(context, [this] {
+        asio::post(acceptor.get_executor(), [this] {
             boost::system::error_code ignored;
             acceptor.close(ignored);
         });
@@ -86,12 +90,7 @@ public:
         state.hashers.join();
     }
 
-    std::string address() const
-    {
-        const auto endpoint = acceptor.local_endpoint();
-        const auto host = endpoint.address().to_string();
-        return (endpoint.address().is_v6() ? "[" + host + "]" : host) + ":" + std::to_string(endpoint.port());
-    }
+    const std::string& address() const { return boundAddress; }
 
 private:
     void openTls()
@@ -136,7 +135,7 @@ private:
                 co_return;
             if (error) {
                 // Out of descriptors, mostly: connections that end give some back.
-                asio::steady_timer pause(context, std::chrono::milliseconds(100));
+                asio::steady_timer pause(acceptor.get_executor(), std::chrono::milliseconds(100));
                 co_await pause.async_wait(asio::as_tuple(asio::use_awaitable));
                 continue;
             }
@@ -148,7 +147,8 @@ private:
     ServerState state;
     std::optional<asio::ssl::context> tls;
     asio::io_context context; // goes before what its suspended connections refer to
-    tcp::acceptor acceptor;
+    tcp::acceptor acceptor;   // on a strand of its own, where it is also closed
+    std::string boundAddress;
     std::vector<std::thread> threads;
 };
 

@@ -15,7 +15,8 @@ struct ServerSettings {
     std::string tlsCertificate; ///< a PEM file with the chain; both empty for plain HTTP
     std::string tlsKey;
     Limits limits;
-    std::function<void(const std::string&)> log; ///< one line each; called from any thread, one call at a time
+    bool behindProxy = false;                    ///< a proxy stands in front and names the client in X-Forwarded-For
+    std::function<void(const std::string&)> log; ///< one line each; called from any thread, also at the same time
     std::function<std::int64_t()> clock;
 };
 

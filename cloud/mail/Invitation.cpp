@@ -3,24 +3,25 @@
 #include "cloud/base/Secret.h"
 #include "cloud/base/Text.h"
 
-#include <algorithm>
 #include <string_view>
 
 namespace orvcloud
 {
 namespace
 {
-/// An unstructured text as encoded words (RFC 2047) of at most 75 characters, cut between characters.
-std::string encodedWords(std::string_view text)
+/// An unstructured text as encoded words, cut between characters. `column` is where the first one begins; no line is
+/// longer than 76 characters (RFC 2047, section 2).
+std::string encodedWords(std::string_view text, std::size_t column)
 {
-    constexpr std::size_t mostBytes = 45;
+    constexpr std::string_view begin = "=?UTF-8?B?";
+    constexpr std::string_view end = "?=";
     std::string result;
     while (!text.empty()) {
-        std::size_t length = std::min(text.size(), mostBytes);
-        while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0) == 0x80)
-            --length;
-        result += (result.empty() ? "=?UTF-8?B?" : "\r\n =?UTF-8?B?") + base64(text.substr(0, length)) + "?=";
-        text.remove_prefix(length);
+        const std::size_t room = 76 - column - begin.size() - end.size();
+        const std::string_view word = cut(text, room / 4 * 3);
+        result.append(result.empty() ? "" : "\r\n ").append(begin).append(base64(word)).append(end);
+        text.remove_prefix(word.size());
+        column = 1;
     }
     return result;
 }
@@ -45,10 +46,12 @@ std::string invitationMail(const Invitation& invitation, std::int64_t now)
             "told here:\r\n" +
             invitation.link + "\r\n";
     const auto at = invitation.sender.find('@');
-    return "Date: " + formattedTime(now, "%a, %d %b %Y %H:%M:%S +0000") + "\r\nFrom: " + encodedWords("Orvanta Cloud") +
-           " <" + invitation.sender + ">\r\nReply-To: <" + invitation.inviterAddress + ">\r\nTo: <" +
-           invitation.recipient + ">\r\nSubject: " +
-           encodedWords(invitation.inviterName + " has shared " + invitation.modelName + " with you") +
+    return "Date: " + formattedTime(now, "%a, %d %b %Y %H:%M:%S +0000") +
+           "\r\nFrom: " + encodedWords("Orvanta Cloud", std::string_view("From: ").size()) + "\r\n <" +
+           invitation.sender + ">\r\nReply-To: <" + invitation.inviterAddress + ">\r\nTo: <" + invitation.recipient +
+           ">\r\nSubject: " +
+           encodedWords(invitation.inviterName + " has shared " + invitation.modelName + " with you",
+                        std::string_view("Subject: ").size()) +
            "\r\nMessage-ID: <" + randomUuid() + invitation.sender.substr(at) +
            ">\r\nMIME-Version: 1.0\r\nContent-Type: text/plain; charset=utf-8\r\nContent-Transfer-Encoding: "
            "base64\r\n\r\n" +

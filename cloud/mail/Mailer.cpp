@@ -89,7 +89,7 @@ private:
             if (entry.path().extension() != ".mail")
                 continue;
             try {
-                done = sendFile(entry.path()) && done;
+                done = sendFile(entry.path(), stop) && done;
             } catch (const std::exception& error) {
                 settings.log(std::string("error: ") + error.what());
                 done = false;
@@ -98,7 +98,7 @@ private:
         return done;
     }
 
-    bool sendFile(const std::filesystem::path& file)
+    bool sendFile(const std::filesystem::path& file, const std::stop_token& stop)
     {
         std::ifstream stream(file, std::ios::binary);
         std::string recipient;
@@ -107,7 +107,7 @@ private:
         rest << stream.rdbuf();
         std::string reason;
         const Delivery delivery =
-            sendMail({settings.smtpUrl, settings.smtpPassword}, settings.sender, recipient, rest.str(), reason);
+            sendMail({settings.smtpUrl, settings.smtpPassword}, settings.sender, recipient, rest.str(), stop, reason);
         if (delivery != Delivery::taken)
             settings.log("error: " + reason);
         if (delivery == Delivery::tryLater)

@@ -1,5 +1,7 @@
 #include "cloud/mail/Smtp.h"
 
+#include "cloud/base/Address.h"
+
 #include <algorithm>
 #include <cstring>
 #include <curl/curl.h>
@@ -26,14 +28,20 @@ bool isLoopback(const std::string& url)
     if (!parts || curl_url_set(parts.get(), CURLUPART_URL, url.c_str(), CURLU_NON_SUPPORT_SCHEME) != CURLUE_OK ||
         curl_url_get(parts.get(), CURLUPART_HOST, &host, 0) != CURLUE_OK)
         return false;
-    const std::string name = host;
+    const bool loopback = isLoopbackHost(host);
     curl_free(host);
-    return name == "localhost" || name == "[::1]" || name.starts_with("127.");
+    return loopback;
+}
+
+/// libcurl asks about once a second, also while the server is silent; anything but zero ends the transfer.
+int endIfStopped(void* stop, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
+{
+    return static_cast<const std::stop_token*>(stop)->stop_requested() ? 1 : 0;
 }
 } // namespace
 
 Delivery sendMail(const SmtpServer& server, const std::string& sender, const std::string& recipient,
-                  const std::string& message, std::string& reason)
+                  const std::string& message, const std::stop_token& stop, std::string& reason)
 {
     const std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl(curl_easy_init(), curl_easy_cleanup);
     const std::string to = "<" + recipient + ">";
@@ -58,11 +66,18 @@ Delivery sendMail(const SmtpServer& server, const std::string& sender, const std
     curl_easy_setopt(handle, CURLOPT_READDATA, &rest);
     curl_easy_setopt(handle, CURLOPT_UPLOAD, 1L);
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(handle, CURLOPT_NOPROGRESS, 0L);
+    curl_easy_setopt(handle, CURLOPT_XFERINFOFUNCTION, endIfStopped);
+    curl_easy_setopt(handle, CURLOPT_XFERINFODATA, &stop);
     curl_easy_setopt(handle, CURLOPT_CONNECTTIMEOUT, 20L);
     curl_easy_setopt(handle, CURLOPT_TIMEOUT, 120L);
     const CURLcode code = curl_easy_perform(handle);
     if (code == CURLE_OK)
         return Delivery::taken;
+    if (code == CURLE_ABORTED_BY_CALLBACK) {
+        reason = "A mail waits until the service is started again.";
+        return Delivery::tryLater;
+    }
     long answer = 0;
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &answer);
     reason = std::string("The mail server didn't take a mail: ") + curl_easy_strerror(code) + " (" +

@@ -30,7 +30,7 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, Role role)
     // The checkpoint belongs to the holder of the write lock, so closing must not start one.
     sqlite3_db_config(database, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     try {
-        run("PRAGMA journal_mode=WAL");
+        keepWriteAheadLog(file);
         run("PRAGMA synchronous=FULL");
         run("PRAGMA foreign_keys=ON");
         run("PRAGMA trusted_schema=OFF");
@@ -42,6 +42,14 @@ SqliteConnection::SqliteConnection(const std::filesystem::path& file, Role role)
         sqlite3_close_v2(database);
         throw;
     }
+}
+
+void SqliteConnection::keepWriteAheadLog(const std::filesystem::path& file)
+{
+    SqliteStatement mode(*this, "PRAGMA journal_mode=WAL"); // answers with the mode that is in force afterwards
+    if (!mode.step() || mode.text(0) != "wal")
+        throw StoreError("The database " + file.string() +
+                         " can't keep a write-ahead log; the data directory must lie on a local file system.");
 }
 
 SqliteConnection::~SqliteConnection()

@@ -31,6 +31,8 @@ public:
     sqlite3* handle() const { return database; }
 
 private:
+    void keepWriteAheadLog(const std::filesystem::path& file);
+
     sqlite3* database = nullptr;
 };
 

@@ -7,7 +7,7 @@ namespace orvcloud
 {
 namespace
 {
-constexpr std::int64_t presentVersion = 1;
+constexpr std::int64_t presentVersion = 2;
 
 // An author of NULL is the service itself. Shares name an address and not an account, so that an invitation works for
 // somebody who gets an account afterwards.
@@ -70,7 +70,14 @@ CREATE TABLE comment (
     UNIQUE (model, comment_id)
 ) STRICT;
 CREATE INDEX comment_by_model ON comment(model, id);
-PRAGMA user_version = 1;
+)sql";
+
+// The size in bytes is kept beside the text, so that an author's comments are added up without reading them.
+constexpr const char* secondSchema = R"sql(
+ALTER TABLE comment ADD COLUMN size INTEGER NOT NULL DEFAULT 0;
+UPDATE comment SET size = length(CAST(content AS BLOB));
+CREATE INDEX comment_by_author ON comment(model, author, size);
+PRAGMA user_version = 2;
 )sql";
 } // namespace
 
@@ -81,8 +88,10 @@ void prepareSchema(SqliteConnection& connection)
     const std::int64_t found = version.number(0);
     if (found > presentVersion)
         throw StoreError("The data directory was written by a newer version of orvanta-cloud; start that version.");
-    if (found == 0)
+    if (found < 1)
         connection.run(firstSchema);
+    if (found < 2)
+        connection.run(secondSchema);
 }
 
 } // namespace orvcloud

@@ -56,27 +56,43 @@ public:
         });
     }
 
-    void setPasswordHash(std::int64_t account, std::string_view passwordHash) override
+    void changePassword(std::int64_t account, std::string_view passwordHash) override
     {
         database.write([&](SqliteConnection& writer) {
             SqliteStatement(writer, "UPDATE account SET password_hash = ? WHERE id = ?")
                 .with(passwordHash)
                 .with(account)
                 .run();
+            SqliteStatement(writer, "DELETE FROM session WHERE account = ?").with(account).run();
         });
     }
 
-    void addSession(std::int64_t account, const SecretHash& token, const SecretHash& cookie, std::int64_t now) override
+    bool addSession(const Account& account, const SecretHash& token, const SecretHash& cookie,
+                    std::int64_t now) override
     {
-        database.write([&](SqliteConnection& writer) {
+        return database.write([&](SqliteConnection& writer) {
             SqliteStatement(writer, "INSERT INTO session(account, token_hash, cookie_hash, created, last_used) "
-                                    "VALUES (?, ?, ?, ?, ?)")
-                .with(account)
+                                    "SELECT id, ?, ?, ?, ? FROM account WHERE id = ? AND password_hash = ?")
                 .with(token)
                 .with(cookie)
                 .with(now)
                 .with(now)
+                .with(account.id)
+                .with(std::string_view(account.passwordHash))
                 .run();
+            return writer.changes() == 1;
+        });
+    }
+
+    bool renewPasswordHash(std::int64_t account, std::string_view oldHash, std::string_view newHash) override
+    {
+        return database.write([&](SqliteConnection& writer) {
+            SqliteStatement(writer, "UPDATE account SET password_hash = ? WHERE id = ? AND password_hash = ?")
+                .with(newHash)
+                .with(account)
+                .with(oldHash)
+                .run();
+            return writer.changes() == 1;
         });
     }
 
@@ -101,13 +117,6 @@ public:
         });
     }
 
-    void endSessionsOf(std::int64_t account) override
-    {
-        database.write([&](SqliteConnection& writer) {
-            SqliteStatement(writer, "DELETE FROM session WHERE account = ?").with(account).run();
-        });
-    }
-
     void dropSessionsUnusedSince(std::int64_t moment) override
     {
         database.write([&](SqliteConnection& writer) {
@@ -125,6 +134,18 @@ public:
                 .with(type)
                 .with(now)
                 .run();
+        });
+    }
+
+    std::vector<Device> devicesOf(std::int64_t account) override
+    {
+        return database.read([&](SqliteConnection& reader) {
+            std::vector<Device> all;
+            SqliteStatement row(reader, "SELECT name, type, recorded FROM device WHERE account = ? ORDER BY name");
+            row.with(account);
+            while (row.step())
+                all.push_back({std::string(row.text(0)), std::string(row.text(1)), row.number(2)});
+            return all;
         });
     }
 
@@ -205,24 +226,32 @@ public:
         });
     }
 
-    CommentChange putComment(std::int64_t model, std::int64_t author, const FeedEntry& entry, std::int64_t now) override
+    CommentChange putComment(std::int64_t model, std::int64_t author, const FeedEntry& entry, const CommentQuota& quota,
+                             std::int64_t now) override
     {
         return database.write([&](SqliteConnection& writer) {
-            {
-                SqliteStatement row(writer, "SELECT id, author FROM comment WHERE model = ? AND comment_id = ?");
-                row.with(model).with(std::string_view(entry.commentId));
-                if (row.step()) {
-                    if (row.isNull(1) || row.number(1) != author)
-                        return CommentChange::refused;
-                    SqliteStatement(writer, "UPDATE comment SET content = ?, updated = ? WHERE id = ?")
-                        .with(std::string_view(entry.content))
-                        .with(now)
-                        .with(row.number(0))
-                        .run();
-                    return CommentChange::done;
-                }
-            }
-            insertComment(writer, model, author, entry, now);
+            SqliteStatement row(writer, "SELECT id, author, size FROM comment WHERE model = ? AND comment_id = ?");
+            row.with(model).with(std::string_view(entry.commentId));
+            const bool replaces = row.step();
+            if (replaces && (row.isNull(1) || row.number(1) != author))
+                return CommentChange::refused;
+
+            SqliteStatement kept(writer, "SELECT count(*), total(size) FROM comment WHERE model = ? AND author = ?");
+            kept.with(model).with(author).step();
+            const auto size = static_cast<std::int64_t>(entry.content.size());
+            if (kept.number(0) + (replaces ? 0 : 1) > quota.comments ||
+                kept.number(1) + size - (replaces ? row.number(2) : 0) > quota.bytes)
+                return CommentChange::overQuota;
+
+            if (replaces)
+                SqliteStatement(writer, "UPDATE comment SET content = ?, size = ?, updated = ? WHERE id = ?")
+                    .with(std::string_view(entry.content))
+                    .with(size)
+                    .with(now)
+                    .with(row.number(0))
+                    .run();
+            else
+                insertComment(writer, model, author, entry, now);
             return CommentChange::done;
         });
     }
@@ -243,13 +272,26 @@ public:
         });
     }
 
-    void readFeed(std::int64_t model, const std::function<bool(std::string_view)>& visit) override
+    void readFeed(std::int64_t model, const std::function<bool(std::string_view, std::int64_t)>& visit) override
     {
         database.read([&](SqliteConnection& reader) {
-            SqliteStatement row(reader, "SELECT content FROM comment WHERE model = ? ORDER BY id DESC");
+            SqliteStatement row(reader, "SELECT content, author FROM comment WHERE model = ? ORDER BY id DESC");
             row.with(model);
-            while (row.step() && visit(row.text(0))) {
+            while (row.step() && visit(row.text(0), row.number(1))) { // a NULL is read as 0
             }
+        });
+    }
+
+    std::vector<ModelVersion> versionsOf(std::int64_t model) override
+    {
+        return database.read([&](SqliteConnection& reader) {
+            std::vector<ModelVersion> all;
+            SqliteStatement row(reader, "SELECT type, content_hash, size FROM version WHERE model = ? ORDER BY id");
+            row.with(model);
+            while (row.step())
+                all.push_back(
+                    {std::string(row.text(0)), std::string(row.text(1)), static_cast<std::uint64_t>(row.number(2))});
+            return all;
         });
     }
 
@@ -257,14 +299,15 @@ private:
     static void insertComment(SqliteConnection& writer, std::int64_t model, std::optional<std::int64_t> author,
                               const FeedEntry& entry, std::int64_t now)
     {
-        SqliteStatement statement(writer, "INSERT INTO comment(model, comment_id, author, content, created, updated) "
-                                          "VALUES (?, ?, ?, ?, ?, ?)");
+        SqliteStatement statement(writer, "INSERT INTO comment(model, comment_id, author, content, size, created, "
+                                          "updated) VALUES (?, ?, ?, ?, ?, ?, ?)");
         statement.with(model).with(std::string_view(entry.commentId));
         if (author)
             statement.with(*author);
         else
             statement.withNull();
-        statement.with(std::string_view(entry.content)).with(now).with(now).run();
+        statement.with(std::string_view(entry.content)).with(static_cast<std::int64_t>(entry.content.size()));
+        statement.with(now).with(now).run();
     }
 
     std::optional<Account> accountOfSession(const char* find, const char* renew, const SecretHash& secret,

@@ -1,7 +1,10 @@
 #include "cloud/RunningService.h"
 
 #include "cloud/app/Users.h"
+#include "cloud/store/SqliteStore.h"
 
+#include <algorithm>
+#include <chrono>
 #include <gmock/gmock.h>
 #include <thread>
 
@@ -26,6 +29,8 @@ TEST_F(Accounts, ALoginGivesATokenAndACookie)
     EXPECT_TRUE(cookie.starts_with("orvanta_session="));
     EXPECT_THAT(cookie, HasSubstr("; HttpOnly"));
     EXPECT_THAT(cookie, HasSubstr("; SameSite=Strict"));
+    EXPECT_THAT(cookie, HasSubstr("; Path=/api/;"));
+    EXPECT_THAT(cookie, HasSubstr("; Max-Age=2592000;"));
     EXPECT_EQ(cookie.find("Secure"), std::string::npos) << "over plain HTTP the client would never send it back";
     EXPECT_EQ(cookie.find(reply.body), std::string::npos);
     EXPECT_EQ(login("ANN@example.ORG", "ann's password").status, 200);
@@ -35,6 +40,11 @@ TEST_F(Accounts, ASecureCookieWhereUsersComeOverTls)
 {
     stop();
     config.publicUrl = "https://cloud.example/";
+    start();
+    EXPECT_THAT(login("ann@example.org", "ann's password").headers.at("set-cookie"), HasSubstr("; Secure"));
+    stop();
+    config.publicUrl = "";
+    config.behindProxy = true;
     start();
     EXPECT_THAT(login("ann@example.org", "ann's password").headers.at("set-cookie"), HasSubstr("; Secure"));
 }
@@ -49,6 +59,24 @@ TEST_F(Accounts, WrongPasswordsAndUnknownUsersLookAlike)
     EXPECT_EQ(wrong.headers.count("set-cookie"), 0U);
     EXPECT_EQ(login("ann@example.org", "").status, 401);
     EXPECT_EQ(login("ann@example.org", std::string(2000, 'x')).status, 401);
+}
+
+TEST_F(Accounts, AnUnknownUserTakesAsLongAsAWrongPassword)
+{
+    stop();
+    config.hashCost = {3, 32U << 20}; // some 50 ms, where all the rest takes about one
+    setPassword(config, "ann@example.org", "ann's password");
+    start();
+    const auto timeOf = [&](const std::string& email) {
+        auto least = std::chrono::steady_clock::duration::max();
+        for (int i = 0; i < 3; ++i) {
+            const auto began = std::chrono::steady_clock::now();
+            EXPECT_EQ(login(email, "wrong").status, 401);
+            least = std::min(least, std::chrono::steady_clock::now() - began);
+        }
+        return least;
+    };
+    EXPECT_GT(timeOf("nobody@example.org") * 3, timeOf("ann@example.org"));
 }
 
 TEST_F(Accounts, GuessingIsSlowedDown)
@@ -71,7 +99,7 @@ TEST_F(Accounts, ManyLoginsAtOnceAllGetAnAnswer)
     for (int i = 0; i < 8; ++i)
         threads.emplace_back([&, i] {
             const std::string name = i % 2 == 0 ? "ann" : "bob";
-            if (login(name + "@example.org", name + "'s password").status != 0)
+            if (login(name + "@example.org", name + "'s password").status == 200)
                 ++fine;
         });
     for (std::thread& thread : threads)
@@ -87,6 +115,38 @@ TEST_F(Accounts, TooManyLoginsAtOnceAreToldToWait)
     const Reply reply = login("ann@example.org", "ann's password");
     EXPECT_EQ(reply.status, 503);
     EXPECT_EQ(reply.headers.count("retry-after"), 1U);
+}
+
+TEST_F(Accounts, LogLinesComeOneAtATime)
+{
+    stop();
+    std::atomic<int> inside = 0;
+    std::atomic<bool> overlapped = false;
+    std::atomic<bool> mailFailed = false;
+    config.smtpUrl = "smtp://127.0.0.1:1";
+    config.log = [&](const std::string& line) {
+        if (++inside > 1)
+            overlapped = true;
+        if (line.find("mail server") != std::string::npos) {
+            mailFailed = true;
+            // Stays long enough for the lines of the requests below to come in between, if they could.
+            const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(300);
+            while (!overlapped && std::chrono::steady_clock::now() < end)
+                std::this_thread::yield();
+        }
+        --inside;
+    };
+    start();
+    const SignedIn ann = signIn("ann");
+    share(ann, push(ann, "a.step"), "bob@example.org", "");
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (!mailFailed && std::chrono::steady_clock::now() < end)
+        std::this_thread::yield();
+    ASSERT_TRUE(mailFailed);
+    get(ann, "/api/AccountInfo/", {});
+    get(ann, "/api/AccountInfo/", {});
+    stop();
+    EXPECT_FALSE(overlapped);
 }
 
 TEST_F(Accounts, InfoNamesTheAccount)
@@ -106,6 +166,17 @@ TEST_F(Accounts, ADeviceIsRecordedForTheCookiesUser)
     EXPECT_EQ(postWithCookie(ann, "/api/InstalledDevice/", {{"devicename", ""}, {"devicetype", "pc"}}).status, 400);
     EXPECT_EQ(postWithCookie(ann, "/api/InstalledDevice/", {{"devicename", "desk"}}).status, 400);
     EXPECT_EQ(post(ann, "/api/InstalledDevice/", device).status, 401) << "the token doesn't open it";
+    EXPECT_EQ(postWithCookie({"bob@example.org", "", ann.cookie}, "/api/InstalledDevice/",
+                             {{"devicename", "laptop"}, {"devicetype", "mac"}})
+                  .status,
+              200);
+    const auto store = openSqliteStore(config.dataDirectory);
+    const auto devices = store->devicesOf(store->findAccount("ann@example.org")->id);
+    ASSERT_EQ(devices.size(), 2U) << "the cookie says whose device it is, whatever the parameter says";
+    EXPECT_EQ(devices[0].name + devices[0].type, "deskpc");
+    EXPECT_EQ(devices[1].name + devices[1].type, "laptopmac");
+    EXPECT_EQ(devices[0].recorded, *now);
+    EXPECT_TRUE(store->devicesOf(store->findAccount("bob@example.org")->id).empty());
     ann.cookie = "orvanta_session=made-up";
     EXPECT_EQ(postWithCookie(ann, "/api/InstalledDevice/", device).status, 401);
 }
@@ -151,6 +222,8 @@ TEST_F(Accounts, ASessionLivesThirtyDaysFromItsLastUse)
     EXPECT_EQ(get(unused, "/api/AccountInfo/", {}).status, 401);
     *now += 31 * day;
     EXPECT_EQ(get(ann, "/api/AccountInfo/", {}).status, 401);
+    const Fields device{{"devicename", "d"}, {"devicetype", "pc"}};
+    EXPECT_EQ(postWithCookie(ann, "/api/InstalledDevice/", device).status, 401) << "the cookie has expired with it";
 }
 
 TEST_F(Accounts, SessionsOutliveTheService)
@@ -198,6 +271,15 @@ TEST_F(Accounts, SecretsStayOutOfTheLog)
     get(ann, "/api/AccountInfo/", {});
     sendRequest(url, "GET", "/api/" + ann.token, standardHeaders(ann));
     sendRequest(url, ann.token, "/api/Login/", standardHeaders(ann));
+    sendRequest(url, "GET", "/api/AccountInfo/?userid=" + ann.token, standardHeaders(ann));
+    sendRequest(url, "GET", "/shared/" + ann.token + "?" + ann.token, standardHeaders(ann));
+    upload(ann, ann.token, "x");
+    upload(ann, "a.step", ann.token);
+    upload(ann, "example.org", "x", "/api/Upload/", ann.token);
+    const std::string job = push(ann, "b.step");
+    comment(ann, job, ann.token, "{}");
+    comment(ann, job, "c", R"({"file":")" + ann.token + "\"}");
+    share(ann, job, ann.token + "@example.org, " + ann.token, ann.token);
     postWithCookie(ann, "/api/Logout/", {});
     const std::string log = logText();
     EXPECT_THAT(log, HasSubstr("POST /api/Login/ 200"));

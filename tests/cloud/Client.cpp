@@ -34,7 +34,7 @@ void RawConnection::send(std::string_view bytes)
     asio::write(impl->socket, asio::buffer(bytes.data(), bytes.size()), ignored);
 }
 
-Reply RawConnection::receive()
+Reply RawConnection::receiveHead()
 {
     Reply reply;
     boost::system::error_code error;
@@ -54,6 +54,14 @@ Reply RawConnection::receive()
         reply.headers[name] = header.substr(colon + 2, end - colon - 2);
         at = end + 2;
     }
+    return reply;
+}
+
+Reply RawConnection::receive()
+{
+    Reply reply = receiveHead();
+    boost::system::error_code error;
+    auto buffer = asio::dynamic_buffer(impl->received);
     const auto length = reply.headers.find("content-length");
     const std::size_t size = length == reply.headers.end() ? 0 : std::stoul(length->second);
     if (impl->received.size() < size)
@@ -61,6 +69,13 @@ Reply RawConnection::receive()
     reply.body = impl->received.substr(0, size);
     impl->received.erase(0, size);
     return reply;
+}
+
+std::size_t RawConnection::readSome(std::size_t most)
+{
+    std::string bytes(most, '\0');
+    boost::system::error_code error;
+    return impl->socket.read_some(asio::buffer(bytes), error);
 }
 
 bool RawConnection::isClosed()

@@ -29,6 +29,10 @@ public:
     void send(std::string_view bytes);
     /// The next answer; waits for it. Interim answers (1xx) are answers too.
     Reply receive();
+    /// The next answer to a HEAD request, which has no body whatever its header says.
+    Reply receiveHead();
+    /// Takes up to `most` bytes of what comes next. Zero once the connection has ended.
+    std::size_t readSome(std::size_t most);
     /// True if the other side ends the connection without a further byte; waits for it.
     bool isClosed();
 

@@ -2,6 +2,7 @@
 
 #include "cloud/feed/Record.h"
 
+#include <chrono>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <json/reader.h>
@@ -56,7 +57,8 @@ TEST_F(Feed, IsAnArrayInAscii)
 TEST_F(Feed, KeepsARecordAndNamesItsAuthor)
 {
     const std::string rest = R"("commentcontent":{"content":"c","objects":{"hidden":[3,7]},)"
-                             R"("viewport":{"eye":[0.10000000149011612,0.0,10.0],"zoom":1.0}},"file":{"id":"f"})";
+                             R"("viewport":{"eye":[0.10000000149011612,0.0,10.0],"zoom":1.0}},"file":{"id":")" +
+                             job + R"("})";
     const std::string sent =
         R"({"author":{"canDelete":true,"email":"e","id":")" + ann.token + R"(","name":"n"},)" + rest + "}\n";
     EXPECT_EQ(comment(ann, job, "c1", sent).body, "ok");
@@ -121,6 +123,78 @@ TEST_F(Feed, TakesTheLargestRecordHoweverItIsEscaped)
     EXPECT_EQ(comment(ann, job, "c2", R"({"thumbnail":"%2b)" + escaped + "\"}").status, 400);
 }
 
+TEST_F(Feed, ARecordIsOfItsRequestsModelAndComment)
+{
+    EXPECT_EQ(comment(ann, job, "c1", R"({"commentcontent":{"id":"c1"},"file":{"id":")" + job + "\"}}").status, 200);
+    EXPECT_EQ(comment(ann, job, "c2", R"({"commentcontent":{"id":"c1"}})").status, 400);
+    EXPECT_EQ(comment(ann, push(ann, "b.step"), "c2", R"({"file":{"id":")" + job + "\"}}").status, 400);
+}
+
+TEST_F(Feed, OnesOwnCommentsCarryTheAddressAsTheRequestSpellsIt)
+{
+    share(ann, job, "bob@example.org", "");
+    ASSERT_EQ(comment(ann, job, "c1", saying("anns")).status, 200);
+    ASSERT_EQ(comment(bob, job, "c2", saying("bobs")).status, 200);
+    const auto emails = [&](SignedIn user, const std::string& spelling) {
+        user.email = spelling;
+        const auto entries = feed(user, job);
+        return parse(entries[1])["author"]["email"].asString() + " " + parse(entries[0])["author"]["email"].asString();
+    };
+    EXPECT_EQ(emails(ann, "Ann@Example.org"), "Ann@Example.org bob@example.org");
+    EXPECT_EQ(emails(ann, "ann@example.org"), "ann@example.org bob@example.org");
+    EXPECT_EQ(emails(bob, "BOB@example.org"), "ann@example.org BOB@example.org");
+    EXPECT_EQ(parse(feed(ann, job)[2])["author"]["email"].asString(), "");
+
+    // Whoever signed in under another spelling comments, sees the comment as their own, and deletes it.
+    const SignedIn shouting{"ANN@EXAMPLE.ORG", login("ANN@EXAMPLE.ORG", "ann's password").body, ""};
+    ASSERT_EQ(comment(shouting, job, "c3", saying("loud")).status, 200);
+    EXPECT_EQ(parse(feed(shouting, job)[0])["author"]["email"].asString(), "ANN@EXAMPLE.ORG");
+    EXPECT_EQ(parse(feed(bob, job)[0])["author"]["email"].asString(), "ann@example.org");
+    EXPECT_EQ(post(shouting, "/api/DeleteComment/", {{"jobid", job}, {"commentid", "c3"}}).status, 200);
+}
+
+TEST_F(Feed, AnAuthorsRoomIsLimited)
+{
+    stop();
+    config.commentQuota = {2, 1000};
+    start();
+    EXPECT_EQ(comment(ann, job, "c1", saying(std::string(1000, 'x'))).status, 413);
+    EXPECT_EQ(comment(ann, job, "c1", saying("one")).status, 200);
+    EXPECT_EQ(comment(ann, job, "c2", saying("two")).status, 200);
+    EXPECT_EQ(comment(ann, job, "c3", saying("three")).status, 413);
+    EXPECT_EQ(comment(ann, job, "c2", saying("two, mended")).status, 200);
+    EXPECT_EQ(feed(ann, job).size(), 8U);
+}
+
+TEST_F(Feed, LargeAnswersUnderWayAreLimited)
+{
+    std::string record = R"({"thumbnail":")" + std::string(largestRecord - 16, 'x') + "\"}";
+    ASSERT_EQ(record.size(), largestRecord);
+    for (const char* id : {"c1", "c2", "c3", "c4"})
+        ASSERT_EQ(comment(ann, job, id, record).status, 200);
+    stop();
+    config.limits.answerBytes = 20U << 20;
+    start();
+    const std::string target =
+        "/api/CommentSync/?" + encodeForm({{"name", ORVANTA_API_ID}, {"username", ann.email}, {"jobid", job}});
+    {
+        RawConnection slow(url);
+        slow.send("GET " + target + " HTTP/1.1\r\nHost: x\r\nX-Api-Key: " ORVANTA_API_KEY "\r\nAuthorization: Bearer " +
+                  ann.token + "\r\n\r\n");
+        ASSERT_GT(slow.readSome(1), 0U); // the answer is under way, and more than the system takes over
+        const Reply refused = get(ann, "/api/CommentSync/", {{"jobid", job}});
+        EXPECT_EQ(refused.status, 503);
+        EXPECT_EQ(refused.headers.count("retry-after"), 1U);
+        EXPECT_EQ(get(ann, "/api/AccountInfo/", {}).status, 200) << "small answers aren't counted";
+    }
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    int status = 0;
+    while (status != 200 && std::chrono::steady_clock::now() < end)
+        status = get(ann, "/api/CommentSync/", {{"jobid", job}}).status;
+    EXPECT_EQ(status, 200) << "an answer that ended makes room";
+    EXPECT_EQ(get(ann, "/api/CommentSync/", {{"jobid", job}}).status, 200);
+}
+
 TEST_F(Feed, AuthorAndOwnerDelete)
 {
     share(ann, job, "bob@example.org, eve@example.org", "");
@@ -152,6 +226,8 @@ TEST_F(Feed, NoTokenIsKeptAnywhere)
             continue;
         std::ifstream stream(entry.path(), std::ios::binary);
         const std::string bytes{std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-        EXPECT_EQ(bytes.find(ann.token), std::string::npos) << entry.path();
+        for (const std::string& secret :
+             {ann.token, ann.cookie.substr(ann.cookie.find('=') + 1), std::string("ann's password")})
+            EXPECT_EQ(bytes.find(secret), std::string::npos) << entry.path();
     }
 }

@@ -1,5 +1,9 @@
 #include "cloud/RunningService.h"
 
+#include "cloud/api/Parts.h"
+#include "cloud/http/ServerState.h"
+#include "cloud/store/StoreError.h"
+
 #include <chrono>
 #include <gmock/gmock.h>
 #include <thread>
@@ -194,11 +198,235 @@ TEST_F(HttpProfile, MoreConnectionsThanAllowedAreEnded)
     EXPECT_EQ(first.receive().status, 200);
 }
 
+TEST_F(HttpProfile, HeadGetsNoBody)
+{
+    RawConnection connection(url);
+    for (const char* path : {"/shared/x", "/api/Login/", "/nowhere"}) {
+        connection.send(std::string("HEAD ") + path + " HTTP/1.1\r\nHost: x\r\n\r\n");
+        const Reply reply = connection.receiveHead();
+        EXPECT_EQ(reply.status, std::string(path) == "/nowhere" ? 404 : 405);
+        EXPECT_NE(reply.headers.at("content-length"), "0");
+        connection.send(getLine + "Host: x\r\n\r\n");
+        EXPECT_EQ(connection.receive().status, 200) << "what follows is the next answer";
+    }
+    connection.send("HEAD /shared/x HTTP/1.1\r\n\r\n");
+    EXPECT_EQ(connection.receiveHead().status, 400);
+    EXPECT_TRUE(connection.isClosed());
+}
+
+TEST_F(HttpProfile, EachAddressHasItsOwnLimit)
+{
+    const SignedIn ann = signIn("ann");
+    const auto statusAt = [&](const std::string& path, std::uint64_t length) {
+        const bool isUpload = path.find("Upload") != std::string::npos;
+        return statusOf("POST " + path +
+                        " HTTP/1.1\r\nHost: x\r\nX-Api-Key: " ORVANTA_API_KEY "\r\nAuthorization: Bearer " + ann.token +
+                        "\r\nCookie: " + ann.cookie +
+                        "\r\nContent-Type: " + (isUpload ? "multipart/form-data; boundary=b" : formType) +
+                        "\r\nExpect: 100-continue\r\nContent-Length: " + std::to_string(length) + "\r\n\r\n");
+    };
+    const std::vector<std::pair<const char*, std::uint64_t>> table{
+        {"/api/Login/", 16'384},           {"/api/Logout/", 16'384},     {"/api/InstalledDevice/", 1U << 20},
+        {"/api/DeleteComment/", 1U << 20}, {"/api/Share/", 1U << 20},    {"/api/CommentSync/", (20U << 20) + 65'536},
+        {"/api/UploadInput/", 4ULL << 30}, {"/api/Upload/", 4ULL << 30},
+    };
+    for (const auto& [path, limit] : table) {
+        EXPECT_EQ(statusAt(path, limit), 100) << path;
+        EXPECT_EQ(statusAt(path, limit + 1), 413) << path;
+    }
+}
+
+TEST_F(HttpProfile, ASlowReaderIsLetGo)
+{
+    const SignedIn ann = signIn("ann");
+    const std::string job = push(ann, "a.step");
+    const std::string record = R"({"thumbnail":")" + std::string(4'000'000, 'x') + "\"}";
+    for (int i = 0; i < 8; ++i)
+        ASSERT_EQ(comment(ann, job, "c" + std::to_string(i), record).status, 200);
+    stop();
+    config.limits.transfer = std::chrono::milliseconds(200);
+    config.limits.linger = std::chrono::milliseconds(200);
+    config.limits.slowestBytesPerSecond = std::uint64_t{1} << 40;
+    start();
+    RawConnection slow(url);
+    slow.send(
+        "GET /api/CommentSync/?" + encodeForm({{"name", ORVANTA_API_ID}, {"username", ann.email}, {"jobid", job}}) +
+        " HTTP/1.1\r\nHost: x\r\nX-Api-Key: " ORVANTA_API_KEY "\r\nAuthorization: Bearer " + ann.token + "\r\n\r\n");
+    // Every piece is taken in time, but never as much as asked for.
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    auto last = std::chrono::steady_clock::now();
+    std::size_t got = 0;
+    while (logText().find("undelivered") == std::string::npos && std::chrono::steady_clock::now() < end) {
+        if (std::chrono::steady_clock::now() - last < std::chrono::milliseconds(20)) {
+            std::this_thread::yield();
+            continue;
+        }
+        last = std::chrono::steady_clock::now();
+        got += slow.readSome(512 * 1024);
+    }
+    EXPECT_THAT(logText(), ::testing::HasSubstr("undelivered"));
+    EXPECT_LT(got, 32'000'000U);
+}
+
+TEST_F(HttpProfile, AProxyNamesItsClients)
+{
+    const auto loginFrom = [&](const std::string& forwarded) {
+        const std::string body =
+            encodeForm({{"name", ORVANTA_API_ID}, {"username", "ann@example.org"}, {"password", "guess"}});
+        return statusOf(postHead + forwarded + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + body);
+    };
+    stop();
+    config.behindProxy = true;
+    start();
+    for (const char* first : {"198.51.100.1, ", "198.51.100.2,", "", "x, ", "X-Y\r\nX-Forwarded-For: "})
+        EXPECT_EQ(loginFrom(std::string("X-Forwarded-For: ") + first + "192.0.2.7\r\n"), 401);
+    EXPECT_EQ(loginFrom("X-Forwarded-For: 192.0.2.7\r\n"), 429);
+    EXPECT_EQ(loginFrom("X-Forwarded-For: 192.0.2.7, 192.0.2.8\r\n"), 401) << "somebody else";
+    EXPECT_EQ(loginFrom("X-Forwarded-For: ::ffff:192.0.2.7\r\n"), 429) << "the same in another form";
+    EXPECT_EQ(loginFrom("X-Forwarded-For: nonsense\r\n"), 401) << "the proxy itself";
+    EXPECT_THAT(logText(), ::testing::HasSubstr(" 192.0.2.7 POST /api/Login/ 429"));
+    stop();
+    config.behindProxy = false;
+    start();
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(loginFrom("X-Forwarded-For: 192.0.2." + std::to_string(i) + "\r\n"), 401);
+    EXPECT_EQ(loginFrom("X-Forwarded-For: 192.0.2.9\r\n"), 429) << "without a proxy it is anybody's word";
+}
+
 TEST_F(HttpProfile, StoppingLetsARequestEnd)
 {
     RawConnection idle(url);
     idle.send(getLine + "Host: x\r\n\r\n");
     ASSERT_EQ(idle.receive().status, 200);
-    stop();
+    RawConnection busy(url);
+    const std::string body =
+        encodeForm({{"name", ORVANTA_API_ID}, {"username", "ann@example.org"}, {"password", "ann's password"}});
+    busy.send(postHead + "Expect: 100-continue\r\nContent-Length: " + std::to_string(body.size()) + "\r\n\r\n");
+    ASSERT_EQ(busy.receive().status, 100);
+    std::thread stopping([this] { stop(); });
+    const auto takesConnections = [&] {
+        try {
+            return !RawConnection(url).isClosed();
+        } catch (const std::exception&) {
+            return false;
+        }
+    };
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while (takesConnections() && std::chrono::steady_clock::now() < end) {
+    }
+    busy.send(body);
+    const Reply reply = busy.receive();
+    EXPECT_EQ(reply.status, 200);
+    EXPECT_EQ(reply.headers.count("connection"), 1U) << "it doesn't go on";
+    stopping.join();
     EXPECT_TRUE(idle.isClosed());
+}
+
+namespace
+{
+/// An application that fails wherever its address says.
+class Failing final : public Application
+{
+public:
+    Admission admit(const RequestHead& head) override
+    {
+        Admission admission;
+        admission.bodyLimit = 100;
+        admission.sink = std::make_unique<Sink>(head.path);
+        failAt("/admit", head.path);
+        return admission;
+    }
+
+private:
+    static void failAt(const std::string& place, const std::string& path)
+    {
+        if (path == place)
+            throw std::runtime_error("a detail of " + place);
+        if (path == place + "/full")
+            throw StoreError("a detail of a full disk", true);
+        if (path == place + "/store")
+            throw StoreError("a detail of the store", false);
+    }
+
+    struct Sink final : BodySink {
+        explicit Sink(std::string asked) : path(std::move(asked)) {}
+        std::optional<Answer> take(std::string_view) override
+        {
+            failAt("/take", path);
+            return std::nullopt;
+        }
+        Answer finish() override
+        {
+            failAt("/finish", path);
+            return {};
+        }
+        std::string path;
+    };
+};
+} // namespace
+
+TEST(Server, AnswersForAnApplicationThatFails)
+{
+    Failing application;
+    std::mutex mutex;
+    std::string logged;
+    const auto log = [&](const std::string& line) {
+        const std::lock_guard guard(mutex);
+        logged += line + "\n";
+    };
+    Server server({"127.0.0.1:0", "", "", {}, false, log, [] { return std::int64_t{0}; }}, application);
+    server.start();
+    const std::string url = "http://" + server.address();
+    for (const std::string place : {"/admit", "/take", "/finish"}) {
+        for (const auto& [path, status] :
+             {std::pair(place, 500), std::pair(place + "/store", 500), std::pair(place + "/full", 507)}) {
+            const Reply reply = sendRequest(url, "POST", path, {}, "body");
+            EXPECT_EQ(reply.status, status) << path;
+            EXPECT_EQ(reply.body.find("detail"), std::string::npos) << reply.body;
+        }
+        EXPECT_THAT(logged, ::testing::HasSubstr("error: a detail of " + place + "\n"));
+    }
+    EXPECT_THAT(logged, ::testing::HasSubstr("error: a detail of a full disk\n"));
+    EXPECT_EQ(sendRequest(url, "POST", "/fine", {}, "body").status, 200);
+}
+
+TEST(Server, CountsTheConnectionsOfEachPeer)
+{
+    ConnectionCount count(5, 2);
+    EXPECT_TRUE(count.enter("a", false));
+    EXPECT_TRUE(count.enter("a", false));
+    EXPECT_FALSE(count.enter("a", false));
+    EXPECT_TRUE(count.enter("b", false));
+    count.leave("a");
+    EXPECT_TRUE(count.enter("a", false));
+    EXPECT_TRUE(count.enter("proxy", true));
+    EXPECT_TRUE(count.enter("proxy", true));
+    EXPECT_FALSE(count.enter("proxy", true)) << "five in all";
+    {
+        count.leave("b");
+        const ConnectionCount::Entry entry(count, "c", false);
+        EXPECT_TRUE(entry.isFree());
+        EXPECT_FALSE(ConnectionCount::Entry(count, "c", false).isFree());
+    }
+    EXPECT_TRUE(ConnectionCount::Entry(count, "c", false).isFree()) << "left at the end, and only if entered";
+    EXPECT_TRUE(count.enter("c", false));
+    EXPECT_FALSE(count.enter("d", false));
+}
+
+TEST(Server, ConcedesByDefaultWhatItsPageSays)
+{
+    using std::chrono::seconds;
+    const Limits limits;
+    EXPECT_EQ(limits.idle, seconds(60));
+    EXPECT_EQ(limits.header, seconds(15));
+    EXPECT_EQ(limits.transfer, seconds(30));
+    EXPECT_EQ(limits.slowestBytesPerSecond, 1024U);
+    EXPECT_EQ(limits.headerBytes, 8192U);
+    EXPECT_EQ(limits.uploadBytes, 4ULL << 30);
+    const Config config;
+    EXPECT_EQ(config.listen, "127.0.0.1:8640");
+    EXPECT_EQ(config.hashCost.passes, 2U);
+    EXPECT_EQ(config.hashCost.memoryBytes, 64U << 20);
+    EXPECT_FALSE(config.behindProxy);
+    EXPECT_EQ(sessionLength, 30 * 24 * 3600);
 }

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <gmock/gmock.h>
 #include <sstream>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -67,6 +68,7 @@ public:
         return line;
     }
 
+    pid_t processId() const { return id; }
     void signal(int number) { ::kill(id, number); }
 
     int exitCode()
@@ -143,7 +145,8 @@ TEST_F(Program, SpeaksTls)
                              key + " -out " + certificate + " 2>/dev/null";
     if (std::system(make.c_str()) != 0)
         GTEST_SKIP() << "skipped: there is no openssl to make a certificate with";
-    Process service({"serve", "--listen", "127.0.0.1:0", "--data", data, "--tls-cert", certificate, "--tls-key", key},
+    Process service({"serve", "--listen", "127.0.0.1:0", "--data", data, "--tls-cert", certificate, "--tls-key", key,
+                     "--public-url", "http://cloud.example"},
                     "");
     const std::string ready = service.readLine();
     ASSERT_TRUE(ready.starts_with("orvanta-cloud is ready on https://127.0.0.1:")) << ready;
@@ -158,11 +161,54 @@ TEST_F(Program, SpeaksTls)
     std::getline(stream, line);
     EXPECT_EQ(line, "HTTP/1.1 200 OK\r");
 
+    const std::string logout =
+        "printf 'POST /api/Logout/ HTTP/1.1\\r\\nHost: x\\r\\nConnection: close\\r\\nX-Api-Key: " +
+        std::string(ORVANTA_API_KEY) + "\\r\\nContent-Type: " + formType +
+        "\\r\\nContent-Length: " + std::to_string(std::string("name=" ORVANTA_API_ID).size()) +
+        "\\r\\n\\r\\nname=" ORVANTA_API_ID "' | openssl s_client -quiet -CAfile " + certificate + " -connect " +
+        address + " > " + answer + " 2>/dev/null";
+    EXPECT_EQ(std::system(logout.c_str()), 0);
+    std::ifstream second(answer);
+    std::string whole{std::istreambuf_iterator<char>(second), {}};
+    EXPECT_THAT(whole, HasSubstr("; Secure\r\n")) << "over TLS, whatever the public address says";
+
     RawConnection plain("http://" + address);
     plain.send("GET /shared/x HTTP/1.1\r\nHost: x\r\n\r\n");
     EXPECT_EQ(plain.receive().status, 0) << "plain HTTP gets no answer";
     service.signal(SIGTERM);
     EXPECT_EQ(service.exitCode(), 0);
+}
+
+TEST_F(Program, SendsNoPasswordInPlainTextOverTheNetwork)
+{
+    for (const char* address : {"0.0.0.0:0", "[::]:0", ":0", "192.0.2.1:0", "127.example.org:0"}) {
+        EXPECT_EQ(run({"serve", "--listen", address, "--data", data}), 2) << address;
+        EXPECT_THAT(err.str(), HasSubstr("--behind-proxy")) << address;
+    }
+    std::string error;
+    EXPECT_TRUE(readCommandLine({"serve", "--listen", "localhost:0", "--data", data}, error)) << error;
+    EXPECT_TRUE(readCommandLine({"serve", "--listen", "0.0.0.0:0", "--behind-proxy", "--data", data}, error)) << error;
+    EXPECT_TRUE(
+        readCommandLine({"serve", "--listen", "0.0.0.0:0", "--tls-cert", "c", "--tls-key", "k", "--data", data}, error))
+        << error;
+    Process service({"serve", "--listen", "0.0.0.0:0", "--behind-proxy", "--data", data}, "");
+    EXPECT_TRUE(service.readLine().starts_with("orvanta-cloud is ready on http://0.0.0.0:"));
+}
+
+TEST_F(Program, TakesAsManyDescriptorsAsItNeeds)
+{
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    if (before.rlim_max < 8192)
+        GTEST_SKIP() << "skipped: the system concedes too few descriptors";
+    const rlimit few{256, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+    Process service({"serve", "--listen", "127.0.0.1:0", "--data", data}, "");
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    ASSERT_TRUE(service.readLine().starts_with("orvanta-cloud is ready"));
+    rlimit raised{};
+    ASSERT_EQ(::prlimit(service.processId(), RLIMIT_NOFILE, nullptr, &raised), 0);
+    EXPECT_GE(raised.rlim_cur, 8192U);
 }
 
 TEST_F(Program, SaysWhatIsWrongWithItsFiles)
@@ -201,7 +247,7 @@ TEST_F(Program, ReadsItsCommandLine)
     std::string error;
     const auto command =
         readCommandLine({"serve", "--data", "d", "--listen", "[::1]:9", "--public-url", "https://x.org", "--smtp",
-                         "smtp://mail:25", "--api-id", "i", "--api-key", "k"},
+                         "smtp://mail:25", "--api-id", "i", "--api-key", "k", "--behind-proxy"},
                         error);
     ASSERT_TRUE(command) << error;
     EXPECT_EQ(command->config.listen, "[::1]:9");
@@ -210,6 +256,7 @@ TEST_F(Program, ReadsItsCommandLine)
     EXPECT_EQ(command->config.smtpUrl, "smtp://mail:25");
     EXPECT_EQ(command->config.apiId, "i");
     EXPECT_EQ(command->config.apiKey, "k");
+    EXPECT_TRUE(command->config.behindProxy);
 
     const std::vector<std::vector<std::string>> wrong{
         {},

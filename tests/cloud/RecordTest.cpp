@@ -1,6 +1,7 @@
 #include "cloud/feed/Record.h"
 
 #include "cloud/feed/Feed.h"
+#include "cloud/feed/JsonCheck.h"
 #include "cloud/feed/RecordReader.h"
 
 #include <gtest/gtest.h>
@@ -14,9 +15,14 @@ namespace
 const std::string token = "0f8fad5b-d9cb-469f-a165-70867728950e";
 const Account account{7, "public-id", "ann@example.org", "\xC3\x84nn", "hash"};
 
+std::variant<std::string, RecordRefusal> prepare(std::string_view value)
+{
+    return prepareRecord(value, {account, token, "job", "c1"});
+}
+
 std::string accepted(std::string_view value)
 {
-    auto result = prepareRecord(value, account, token);
+    auto result = prepare(value);
     const auto* refusal = std::get_if<RecordRefusal>(&result);
     EXPECT_EQ(refusal, nullptr) << (refusal ? refusal->sentence : "") << " for " << value.substr(0, 200);
     return refusal ? std::string() : std::get<std::string>(result);
@@ -24,7 +30,7 @@ std::string accepted(std::string_view value)
 
 bool isRefused(std::string_view value)
 {
-    return std::holds_alternative<RecordRefusal>(prepareRecord(value, account, token));
+    return std::holds_alternative<RecordRefusal>(prepare(value));
 }
 
 /// A record with one member somewhere inside, e.g. `commentcontent.viewport.eye`.
@@ -80,7 +86,7 @@ TEST(Record, MayLackAnything)
 TEST(Record, TakesWhatConverts)
 {
     for (const char* value : {"17", "true", "2.5", "\"x\"", "\"a\\u0000b\""})
-        for (const char* path : {"file.id", "commentcontent.content", "commentcontent.publishedTime", "source",
+        for (const char* path : {"file.name", "commentcontent.content", "commentcontent.publishedTime", "source",
                                  "action.value", "thumbnail"})
             accepted(recordWith(path, value));
     for (const char* value : {"true", "1", "0.0", "null"})
@@ -167,6 +173,60 @@ TEST(Record, RefusesWhatIsntOneJsonObject)
     for (const char* huge : {"1e400", "-1e9999", "1e+9999", "123e999999999999"})
         EXPECT_TRUE(isRefused(recordWith("anything", huge))) << huge;
     EXPECT_TRUE(isRefused("{\"a\":" + std::string(5000, '[') + std::string(5000, ']') + "}"));
+}
+
+TEST(Record, RefusesWhatOnlyLooksLikeJson)
+{
+    for (const char* number : {"01", "-01", "00", "1.", ".5", "-.5", "-", "+1", "1e", "1e+", "1.e5", "0x10", "1..2",
+                               "1-2", "--1", "1e5.5", "1e5e5"})
+        EXPECT_TRUE(isRefused(recordWith("anything", number))) << number;
+    for (const char* number : {"0", "-0", "0.0", "-0.5", "10", "1e5", "1E-5", "0e0", "12.50e+07"})
+        accepted(recordWith("anything", number));
+    for (const char* text : {"\"a\nb\"", "\"a\tb\"", "\"a\rb\"", "\"\x1f\""})
+        EXPECT_TRUE(isRefused(recordWith("anything", text))) << text;
+    EXPECT_TRUE(isRefused("{\"a\":1\f}"));
+    EXPECT_TRUE(isRefused("{\"a\":\"x"));
+    EXPECT_TRUE(isRefused("{\"a\":\"x\\"));
+    accepted("{\t\"a\" :\r\n\"01 + .5 \\\" [,\"}\n");
+}
+
+TEST(Record, HasAMostNumberOfValues)
+{
+    const auto list = [](std::size_t count) {
+        std::string text = "[0";
+        for (std::size_t i = 1; i < count; ++i)
+            text += ",0";
+        return text + "]";
+    };
+    std::string transforms;
+    for (int node = 0; node < 10'000; ++node)
+        transforms += (node == 0 ? "{\"" : ",\"") + std::to_string(node) + "\":" + list(16);
+    accepted(R"({"commentcontent":{"objects":{"hidden":)" + list(10'000) + R"(,"transparent":)" + list(10'000) +
+             R"(,"nodetransform":)" + transforms + "}}}}");
+    accepted(recordWith("unknown", list(mostJsonValues - 10)));
+    EXPECT_TRUE(isRefused(recordWith("unknown", list(mostJsonValues + 10))));
+    std::string nested = "[[]";
+    while (nested.size() < largestRecord - 100)
+        nested += ",[]";
+    EXPECT_TRUE(isRefused(recordWith("unknown", nested + "]")));
+}
+
+TEST(Record, NamesTheRequestsModelAndComment)
+{
+    accepted(recordWith("file.id", "\"job\""));
+    accepted(recordWith("commentcontent.id", "\"c1\""));
+    for (const char* id : {"\"other\"", "\"\"", "\"job \"", "\"job\\u0000\"", "1"})
+        EXPECT_TRUE(isRefused(recordWith("file.id", id))) << id;
+    for (const char* id : {"\"c2\"", "\"\"", "\"C1\"", "\"c1\\u0000x\"", "true"})
+        EXPECT_TRUE(isRefused(recordWith("commentcontent.id", id))) << id;
+}
+
+TEST(Record, GetsAnotherSpellingOfItsAuthorsAddress)
+{
+    const std::string rest = R"(,"commentcontent":{"viewport":{"zoom":1.0E+2}},"x":"author"} )";
+    EXPECT_EQ(withAuthorsAddress(accepted(R"({"author":{"canEdit":true})" + rest), "Ann@Example.ORG"),
+              R"({"author":{"canEdit":true,"email":"Ann@Example.ORG","id":"public-id","name":"\u00c4nn"})" + rest);
+    EXPECT_EQ(withAuthorsAddress("no record", "x"), "no record");
 }
 
 TEST(Record, HasALargestSize)

@@ -1,4 +1,6 @@
 #include "cloud/base/Text.h"
+
+#include "cloud/base/Address.h"
 #include "cloud/base/Secret.h"
 
 #include <gtest/gtest.h>
@@ -56,4 +58,36 @@ TEST(Secret, GivesOutUuidsOfVersionFour)
     EXPECT_TRUE(equalInConstantTime("key", "key"));
     EXPECT_FALSE(equalInConstantTime("key", "keys"));
     EXPECT_EQ(base64("ab"), "YWI=");
+}
+
+TEST(Text, IsCutBetweenCharacters)
+{
+    EXPECT_EQ(cut("abc", 5), "abc");
+    EXPECT_EQ(cut("abc", 2), "ab");
+    EXPECT_EQ(cut("a\xC3\xA4", 2), "a");
+    EXPECT_EQ(cut("a\xF0\x9F\x98\x80z", 4), "a");
+    EXPECT_EQ(cut("a\xF0\x9F\x98\x80z", 5), "a\xF0\x9F\x98\x80");
+    EXPECT_EQ(cut("\xC3\xA4", 1), "");
+}
+
+TEST(Text, BecomesOneLine)
+{
+    EXPECT_EQ(oneLine("a\r\nb\tc\x7f \xC3\xA4"), "a??b?c? \xC3\xA4");
+}
+
+TEST(Address, TellsLoopback)
+{
+    for (const char* host : {"localhost", "LocalHost", "127.0.0.1", "127.255.0.9", "::1", "[::1]", "0:0:0:0:0:0:0:1"})
+        EXPECT_TRUE(isLoopbackHost(host)) << host;
+    for (const char* host : {"", "127.evil.example", "127.0.0.1.example", "localhost.example", "0.0.0.0", "::", "[::]",
+                             "128.0.0.1", "127.1", "10.0.0.1", "::2", "example.org"})
+        EXPECT_FALSE(isLoopbackHost(host)) << host;
+}
+
+TEST(Address, HasAHost)
+{
+    EXPECT_EQ(hostOfAddress("127.0.0.1:8640"), "127.0.0.1");
+    EXPECT_EQ(hostOfAddress("[::1]:8640"), "::1");
+    EXPECT_EQ(hostOfAddress(":8640"), "");
+    EXPECT_EQ(hostOfAddress("host"), "host");
 }
