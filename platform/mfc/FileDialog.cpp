@@ -67,8 +67,17 @@ INT_PTR CFileDialog::DoModal()
         dialog.selectFile(QString::fromWCharArray(m_ofn.lpstrFile));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return IDCANCEL;
-    orvplatform::testing::choosePath(*this, dialog.selectedFiles().first().toStdWString());
+    TakePath(dialog.selectedFiles().first().toStdWString());
     return IDOK;
+}
+
+void CFileDialog::TakePath(const std::wstring& path)
+{
+    if (!m_ofn.lpstrFile || m_ofn.nMaxFile == 0)
+        return;
+    const std::size_t count = std::min<std::size_t>(path.size(), m_ofn.nMaxFile - 1);
+    std::copy_n(path.begin(), count, m_ofn.lpstrFile);
+    m_ofn.lpstrFile[count] = L'\0';
 }
 
 CString CFileDialog::GetPathName() const

@@ -58,7 +58,7 @@ void CMFCRibbonButton::SetImageIndex(int index, BOOL large)
     changed(m_pParent);
 }
 
-CMFCRibbonPanel::CMFCRibbonPanel(LPCWSTR name, HICON panelIcon) : m_strName(name), icon(panelIcon) {}
+CMFCRibbonPanel::CMFCRibbonPanel(LPCWSTR name, HICON panelIcon) : m_strName(name), icon(CopyIcon(panelIcon)) {}
 CMFCRibbonPanel::~CMFCRibbonPanel() = default;
 
 void CMFCRibbonPanel::Add(CMFCRibbonBaseElement* element)
@@ -101,7 +101,9 @@ void CMFCRibbonCategory::initialise(CMFCRibbonBar* ribbon, LPCWSTR name, UINT sm
 
 CMFCRibbonPanel* CMFCRibbonCategory::AddPanel(LPCWSTR name, HICON icon, CRuntimeClass* runtimeClass)
 {
-    return InsertPanelAt(GetPanelCount(), name, icon, runtimeClass);
+    CMFCRibbonPanel* panel = InsertPanelAt(GetPanelCount(), name, icon, runtimeClass);
+    panel->inserted = false;
+    return panel;
 }
 
 CMFCRibbonPanel* CMFCRibbonCategory::InsertPanelAt(int index, LPCWSTR name, HICON icon, CRuntimeClass* runtimeClass)
@@ -112,8 +114,9 @@ CMFCRibbonPanel* CMFCRibbonCategory::InsertPanelAt(int index, LPCWSTR name, HICO
     if (!panel)
         panel = std::make_unique<CMFCRibbonPanel>();
     panel->m_strName = name;
-    panel->icon = icon;
+    panel->icon.reset(CopyIcon(icon));
     panel->category = this;
+    panel->inserted = true;
     const auto place = panels.begin() + std::clamp(index, 0, GetPanelCount());
     CMFCRibbonPanel* added = panels.insert(place, std::move(panel))->get();
     changed(this);
@@ -147,7 +150,7 @@ BOOL CMFCRibbonBar::Create(CWnd* parent, DWORD style, UINT id)
         const auto& small = const_cast<CMFCRibbonCategory&>(category).GetSmallImages().pictures();
         for (int i = 0; i < category.GetPanelCount(); ++i) {
             const CMFCRibbonPanel& panel = *category.GetPanel(i);
-            page.panels.push_back({QString::fromStdWString(panel.GetName()), {}});
+            page.panels.push_back({QString::fromStdWString(panel.GetName()), {}, panel.inserted});
             for (int j = 0; j < panel.GetCount(); ++j) {
                 const auto* button = dynamic_cast<const CMFCRibbonButton*>(panel.GetElement(j));
                 if (!button)

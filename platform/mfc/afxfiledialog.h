@@ -42,6 +42,9 @@ public:
     OPENFILENAME m_ofn{};
     BOOL m_bOpenFileDialog;
 
+    // Makes a path the chosen one: what GetPathName returns from now on, cut to the room in m_ofn.
+    void TakePath(const std::wstring& path);
+
 private:
     std::wstring defaultExtension;
     std::wstring filter; // zeros in place of "|"

@@ -17,15 +17,20 @@ public:
     int GetCount() const { return static_cast<int>(elements.size()); }
     CMFCRibbonBaseElement* GetElement(int index) const; // null outside
     LPCWSTR GetName() const { return m_strName; }
-    HICON GetDefaultIcon() const { return icon; }
+    HICON GetDefaultIcon() const { return icon.get(); } // the panel's own copy; null when it was given none
     CMFCRibbonCategory* GetParentCategory() const { return category; }
 
 protected:
     CString m_strName;
 
 private:
+    friend class CMFCRibbonBar;
     friend class CMFCRibbonCategory;
-    HICON icon;
+    struct IconEnd {
+        void operator()(HICON handle) const { DestroyIcon(handle); }
+    };
+    std::unique_ptr<HICON__, IconEnd> icon;
+    bool inserted = false; // by somebody else than the ribbon's program
     CMFCRibbonCategory* category = nullptr;
     std::vector<std::unique_ptr<CMFCRibbonBaseElement>> elements;
 };

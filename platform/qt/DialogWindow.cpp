@@ -3,6 +3,7 @@
 #include "platform/Process.h"
 #include "platform/qt/Controls.h"
 #include "platform/qt/Gdi.h"
+#include "platform/qt/Native.h"
 #include "platform/qt/Window.h"
 #include "winbase.h"
 
@@ -64,22 +65,38 @@ void createItem(HWND dialog, const DialogItem& item)
     }
 }
 
+// Over the owner's middle, and whole on its screen.
 void centre(QWidget& widget)
 {
+    if (widget.layout() && !widget.testAttribute(Qt::WA_Resized))
+        widget.adjustSize(); // as showing it would
     const QWidget* owner = widget.parentWidget() ? widget.parentWidget()->window() : nullptr;
-    const QRect around = owner && owner->isVisible() ? owner->frameGeometry() : widget.screen()->availableGeometry();
+    const bool placed = owner && owner->isVisible();
+    const QRect screen = (placed ? owner : &widget)->screen()->availableGeometry();
     QRect place(QPoint(), widget.size());
-    place.moveCenter(around.center());
+    place.moveCenter((placed ? owner->geometry() : screen).center());
+    place.moveRight(std::min(place.right(), screen.right()));
+    place.moveBottom(std::min(place.bottom(), screen.bottom()));
+    place.moveTopLeft({std::max(place.left(), screen.left()), std::max(place.top(), screen.top())});
     widget.move(place.topLeft());
 }
 } // namespace
+
+QWidget* ownerOf(HWND parent)
+{
+    if (!isLive(parent)) {
+        CWnd* main = AfxGetMainWnd();
+        parent = main ? main->m_hWnd : nullptr;
+    }
+    return isLive(parent) ? parent->widget->window() : nullptr;
+}
 
 HWND createDialogWindow(const DialogTemplate& source, HWND parent, bool child, const std::function<void(HWND)>& attach)
 {
     QWidget* host = isLive(parent) ? parent->childHost : nullptr;
     Qt::WindowFlags flags = Qt::Widget;
     if (!child) {
-        host = host ? host->window() : nullptr;
+        host = ownerOf(parent);
         flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint;
         if (source.style & WS_SYSMENU)
             flags |= Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
@@ -146,7 +163,7 @@ void focusFirstControl(HWND dialog)
     }
 }
 
-void runModal(HWND window)
+void presentModal(HWND window)
 {
     if (!isLive(window))
         return;
@@ -156,6 +173,13 @@ void runModal(HWND window)
     widget.show();
     widget.raise();
     widget.activateWindow();
+}
+
+void runModal(HWND window)
+{
+    if (!isLive(window))
+        return;
+    presentModal(window);
     QEventLoop loop;
     modalLoops().insert(window, &loop);
     // A busy cursor of the command that opened the dialog would say that the dialog is busy.
@@ -176,7 +200,10 @@ void endModal(HWND window)
 
 void changeWaitCursor(int step)
 {
-    if (step < 0 && waitCursors > 0) {
+    if (!qApp) {
+        // Nothing is drawn yet or any more; the calls still come in pairs.
+        waitCursors = std::max(waitCursors + step, 0);
+    } else if (step < 0 && waitCursors > 0) {
         --waitCursors;
         QGuiApplication::restoreOverrideCursor();
     } else if (step > 0) {

@@ -1,10 +1,16 @@
 #pragma once
-// Dialog windows out of templates, and the loop that runs a modal one. No Qt in this header.
+// Dialog windows out of templates, and the loop that runs a modal one.
 
 #include "platform/windows/DialogTemplate.h"
 #include "winuser.h"
 
+#include <QtGlobal>
+
 #include <functional>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
 
 namespace orvplatform
 {
@@ -16,7 +22,12 @@ void makeDialog(HWND window);
 void focusFirstControl(HWND dialog);
 int defaultButtonId(HWND dialog); // 0 when it has none
 
-// Shows a top-level window over its owner and blocks the others until endModal, or until the program quits.
+// The widget that a top-level window belongs to: the parent's window, without a parent the main window, else null.
+QWidget* ownerOf(HWND parent);
+
+// Shows a top-level window in the middle of its owner, whole on the screen, and keeps input from the others.
+void presentModal(HWND window);
+// The same, and returns after endModal. Blocks the others until endModal, or until the program quits.
 void runModal(HWND window);
 void endModal(HWND window);
 

@@ -253,6 +253,11 @@ BOOL DeleteObject(HGDIOBJ object)
     return FALSE;
 }
 
+HICON CopyIcon(HICON icon)
+{
+    return icons().contains(icon) ? orvplatform::makeIcon(icon->image) : nullptr;
+}
+
 BOOL DestroyIcon(HICON icon)
 {
     if (!icons().erase(icon))

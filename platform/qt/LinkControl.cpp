@@ -31,7 +31,7 @@ public:
             html += plain(text.mid(at, match.capturedStart() - at));
             html += QStringLiteral("<a href=\"%1\" style=\"color: %2\">%3</a>")
                         .arg(addresses.size())
-                        .arg(theme().accentText.name(), plain(match.captured(2)));
+                        .arg(theme().accentText.name(), plain(unbroken(match.captured(2), *window->widget)));
             addresses << href.match(match.captured(1)).captured(1);
             at = match.capturedEnd();
         }
@@ -54,6 +54,15 @@ public:
     QStringList addresses;
 
 private:
+    // An address goes to the next line as a whole where it has the room; a longer one is broken, but not before its
+    // host's name.
+    static QString unbroken(QString text, const QWidget& label)
+    {
+        const QString joiner(QChar(0x2060));
+        if (text.contains(QLatin1String("://")) && label.fontMetrics().horizontalAdvance(text) <= label.width())
+            return QStringList(text.split(QString(), Qt::SkipEmptyParts)).join(joiner);
+        return text.replace(QLatin1String("://"), QStringList{":", "/", "/", ""}.join(joiner));
+    }
     static QString plain(const QString& text)
     {
         // Runs of blanks stay what they are.

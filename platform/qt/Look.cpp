@@ -2,6 +2,8 @@
 
 #include <QtWidgets>
 
+#include <optional>
+
 namespace orvplatform
 {
 namespace
@@ -62,16 +64,21 @@ QToolTip { background: @surface; color: @text; border: 1px solid @border; paddin
 }
 } // namespace
 
-const Theme& theme()
+namespace
 {
-    static const bool isDark = qApp && QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
-    return isDark ? dark : light;
+std::optional<bool> chosenDark; // empty before the first question
+
+bool isDarkWanted()
+{
+    const QByteArray wish = qgetenv("ORVANTA_THEME");
+    if (wish == "dark" || wish == "light")
+        return wish == "dark";
+    return qApp && QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-void applyLook(QApplication& application)
+void paint(QApplication& application)
 {
     const Theme& t = theme();
-    application.setStyle(QStringLiteral("Fusion"));
     QPalette palette;
     palette.setColor(QPalette::Window, t.window);
     palette.setColor(QPalette::WindowText, t.text);
@@ -93,6 +100,63 @@ void applyLook(QApplication& application)
         palette.setColor(QPalette::Disabled, role, t.mutedText);
     application.setPalette(palette);
     application.setStyleSheet(styleSheet(t));
+}
+
+// Follows the system between light and dark while the program runs.
+class Follower final : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const auto* app = static_cast<const QApplication*>(parent());
+        if (event->type() == QEvent::ApplicationPaletteChange && watched == app && !painting &&
+            QGuiApplication::palette().color(QPalette::Window) != theme().window)
+            follow();
+        if (event->type() == QEvent::ThemeChange && watched->isWindowType() && !painting && !asked) {
+            asked = true;
+            QMetaObject::invokeMethod(
+                this, [this] { askSystem(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
+private:
+    void askSystem()
+    {
+        asked = false;
+        painting = true;
+        QApplication::setPalette(QPalette()); // the system's own comes out from under the theme's
+        painting = false;
+        follow();
+    }
+    void follow()
+    {
+        painting = true;
+        chosenDark = isDarkWanted();
+        paint(*static_cast<QApplication*>(parent()));
+        painting = false;
+    }
+    bool painting = false;
+    bool asked = false;
+};
+} // namespace
+
+const Theme& theme()
+{
+    if (!chosenDark)
+        chosenDark = isDarkWanted();
+    return *chosenDark ? dark : light;
+}
+
+void applyLook(QApplication& application)
+{
+    chosenDark = isDarkWanted();
+    application.setStyle(QStringLiteral("Fusion"));
+    paint(application);
+    application.installEventFilter(new Follower(&application));
 }
 
 QColor readable(QColor colour)

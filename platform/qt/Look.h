@@ -27,7 +27,9 @@ struct Theme {
     QColor pressed;
 };
 
-// Light or dark after the system's palette as it was at the first call.
+// Light or dark after the system's palette, which the look follows while the program runs; the environment variable
+// ORVANTA_THEME ("light" or "dark") decides before it. Colours that are kept are to be asked for again at
+// QEvent::PaletteChange.
 const Theme& theme();
 
 // Style, palette and style sheet of the application. Call it once, after the application object is made.

@@ -28,6 +28,11 @@ void showPane(HWND tabs, int index);
 void onPaneChosen(HWND tabs, std::function<void(int index)> chosen);
 void floatPane(HWND tabs, int index, bool floating);
 bool isPaneFloating(HWND tabs, int index);
-void foldPanes(HWND tabs, bool fold); // to a strip of icons, and back
+// Unpins the panes: a strip of icons stands in their place, and the bar's sizeHint asks for its width. Pins them again.
+void foldPanes(HWND tabs, bool fold);
 bool arePanesFolded(HWND tabs);
+// What a click on an icon of the strip does: the pane comes out over the window, with the focus. It goes when the focus
+// leaves it, by a click beside it and by Escape.
+void slidePaneOut(HWND tabs, int index);
+bool arePanesSlidOut(HWND tabs);
 } // namespace orvplatform

@@ -3,6 +3,7 @@
 #include "platform/Process.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
+#include "platform/qt/RibbonButtons.h"
 #include "platform/qt/Window.h"
 
 #include <QtWidgets>
@@ -11,134 +12,114 @@ namespace orvplatform
 {
 namespace
 {
-enum class Level { Large, Small, PicturesOnly };
-
-class Button final : public QToolButton
-{
-public:
-    Button(const RibbonButton& source, QWidget* parent) : QToolButton(parent), id(source.id), what(source)
-    {
-        setAutoRaise(true);
-        setFocusPolicy(Qt::TabFocus);
-        setText(source.text);
-        setToolTip(source.toolTip.isEmpty() ? source.text : source.toolTip);
-        setAccessibleName(source.text);
-        ensurePolished();
-        setLevel(Level::Large);
-    }
-    void setLevel(Level level)
-    {
-        const bool large = level == Level::Large;
-        const int side = large ? measures::largeIcon : measures::smallIcon;
-        setIcon(large || what.small.isNull() ? what.large : what.small);
-        // A picture of a higher resolution keeps its size.
-        const QList<QSize> sizes = icon().availableSizes();
-        setIconSize(sizes.isEmpty() || (!large && what.small.isNull()) ? QSize(side, side) : sizes.first());
-        setToolButtonStyle(large                          ? Qt::ToolButtonTextUnderIcon
-                           : level == Level::PicturesOnly ? Qt::ToolButtonIconOnly
-                                                          : Qt::ToolButtonTextBesideIcon);
-        setMinimumWidth(large ? 56 : 0);
-        // Three small buttons stand where one large button does.
-        setMinimumHeight(large ? 0 : smallHeight);
-        setMaximumHeight(large ? QWIDGETSIZE_MAX : smallHeight);
-    }
-
-    const UINT id;
-
-private:
-    static constexpr int smallHeight = 20;
-    RibbonButton what;
-};
-
-class Panel final : public QWidget
-{
-public:
-    Panel(const RibbonPanel& source, QWidget* parent) : QWidget(parent)
-    {
-        auto* column = new QVBoxLayout(this);
-        column->setContentsMargins(measures::gap, measures::grid, measures::gap, 2);
-        column->setSpacing(0);
-        column->addLayout(&grid, 1);
-        grid.setContentsMargins(0, 0, 0, 0);
-        grid.setHorizontalSpacing(2);
-        grid.setVerticalSpacing(1);
-        grid.setRowStretch(3, 1); // takes what few buttons leave, so that the titles stand in one line
-        auto* title = new QLabel(source.name);
-        title->setAlignment(Qt::AlignCenter);
-        title->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-        QPalette quiet = title->palette();
-        quiet.setColor(QPalette::WindowText, theme().mutedText);
-        title->setPalette(quiet);
-        column->addWidget(title);
-        for (const RibbonButton& each : source.buttons)
-            buttons.push_back(new Button(each, this));
-        setLevel(Level::Large);
-    }
-    void setLevel(Level level)
-    {
-        constexpr int rows = 3;
-        for (std::size_t i = 0; i < buttons.size(); ++i) {
-            const int at = static_cast<int>(i);
-            buttons[i]->setLevel(level);
-            grid.removeWidget(buttons[i]);
-            if (level == Level::Large)
-                grid.addWidget(buttons[i], 0, at, Qt::AlignTop);
-            else
-                grid.addWidget(buttons[i], at % rows, at / rows);
-        }
-        grid.invalidate();
-        layout()->activate();
-    }
-
-    std::vector<Button*> buttons;
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QPainter painter(this);
-        painter.setPen(theme().border);
-        painter.drawLine(width() - 1, measures::gap, width() - 1, height() - measures::gap);
-    }
-
-private:
-    QGridLayout grid;
-};
-
+// The row of panels, of which a piece is in view when it is too long.
 class Page final : public QWidget
 {
 public:
-    Page(const RibbonPage& source, QWidget* parent) : QWidget(parent)
+    Page(const RibbonPage& source, QWidget* parent) : QWidget(parent), row(new QWidget(this))
     {
-        auto* row = new QHBoxLayout(this);
-        row->setContentsMargins(0, 0, 0, 0);
-        row->setSpacing(0);
-        for (const RibbonPanel& each : source.panels) {
-            panels.push_back(new Panel(each, this));
-            row->addWidget(panels.back());
+        for (const RibbonPanel& each : source.panels)
+            panels.push_back(new RibbonGroup(each, row));
+        for (const RibbonGroup* panel : panels)
+            for (const RibbonToolButton* button : panel->buttons)
+                picture = std::max(picture, button->largePicture());
+        setFixedHeight(ribbonRowHeight(fontMetrics(), picture));
+        // In reading order; the arrows are for the mouse, the Tab key brings every button into view by itself.
+        for (QToolButton* arrow : {&back, &forth}) {
+            arrow->setParent(this);
+            arrow->setFocusPolicy(Qt::NoFocus);
+            arrow->setAutoRaise(true);
+            arrow->setAutoRepeat(true);
+            arrow->setAutoFillBackground(true);
+            arrow->hide();
         }
-        row->addStretch(1);
+        back.setArrowType(Qt::LeftArrow);
+        back.setAccessibleName(QObject::tr("Show the panels before"));
+        forth.setArrowType(Qt::RightArrow);
+        forth.setAccessibleName(QObject::tr("Show the panels behind"));
+        connect(&back, &QToolButton::clicked, this, [this] { scrollTo(offset - step); });
+        connect(&forth, &QToolButton::clicked, this, [this] { scrollTo(offset + step); });
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+            if (now && row->isAncestorOf(now))
+                reveal(*now);
+        });
     }
-    QSize minimumSizeHint() const override { return {0, QWidget::minimumSizeHint().height()}; }
+    QSize minimumSizeHint() const override { return {0, height()}; }
+    QSize sizeHint() const override { return {total(), height()}; }
 
-    void fit(int available)
-    {
-        int total = 0;
-        for (Panel* panel : panels) {
-            panel->setLevel(Level::Large);
-            total += panel->sizeHint().width();
-        }
-        for (const Level level : {Level::Small, Level::PicturesOnly})
-            for (auto panel = panels.rbegin(); panel != panels.rend() && total > available; ++panel) {
-                total -= (*panel)->sizeHint().width();
-                (*panel)->setLevel(level);
-                total += (*panel)->sizeHint().width();
-            }
-    }
-
-    std::vector<Panel*> panels;
+    std::vector<RibbonGroup*> panels;
 
 protected:
-    void resizeEvent(QResizeEvent*) override { fit(width()); }
+    void resizeEvent(QResizeEvent*) override { fit(); }
+    void wheelEvent(QWheelEvent* event) override
+    {
+        const QPoint turned = event->angleDelta();
+        scrollTo(offset - (turned.x() ? turned.x() : turned.y()) / 2);
+    }
+
+private:
+    static constexpr int step = 80;
+    static constexpr int arrowWidth = 20;
+
+    int total() const
+    {
+        int sum = 0;
+        for (const RibbonGroup* panel : panels)
+            sum += panel->widthAs(panel->shownAs());
+        return sum;
+    }
+
+    // Turns panels into columns until the row fits.
+    void fit()
+    {
+        std::vector<RibbonGroup*> order(panels.rbegin(), panels.rend());
+        std::stable_sort(order.begin(), order.end(), [](const RibbonGroup* one, const RibbonGroup* other) {
+            return std::make_pair(other->keepsLarge, one->buttons.size()) >
+                   std::make_pair(one->keepsLarge, other->buttons.size());
+        });
+        for (RibbonGroup* panel : panels)
+            panel->showAs(RibbonLevel::Large);
+        for (RibbonGroup* panel : order)
+            if (total() > width() && panel->widthAs(RibbonLevel::Small) < panel->widthAs(RibbonLevel::Large))
+                panel->showAs(RibbonLevel::Small);
+        int x = 0;
+        for (RibbonGroup* panel : panels) {
+            const int panelWidth = panel->widthAs(panel->shownAs());
+            panel->setGeometry(x, 0, panelWidth, height());
+            panel->setButtonArea(ribbonButtonArea(fontMetrics(), picture));
+            x += panelWidth;
+        }
+        row->resize(x, height());
+        back.setGeometry(0, 0, arrowWidth, height());
+        forth.setGeometry(width() - arrowWidth, 0, arrowWidth, height());
+        scrollTo(offset);
+    }
+
+    void scrollTo(int wanted)
+    {
+        const int last = std::max(row->width() - width(), 0);
+        offset = std::clamp(wanted, 0, last);
+        row->move(-offset, 0);
+        back.setVisible(offset > 0);
+        forth.setVisible(offset < last);
+        back.raise();
+        forth.raise();
+    }
+
+    void reveal(const QWidget& button)
+    {
+        const int left = button.mapTo(row, QPoint()).x();
+        if (left < offset + arrowWidth)
+            scrollTo(left - arrowWidth);
+        else if (left + button.width() > offset + width() - arrowWidth)
+            scrollTo(left + button.width() - width() + arrowWidth);
+    }
+
+    QWidget* row;
+    QToolButton back;
+    QToolButton forth;
+    int picture = measures::largeIcon;
+    int offset = 0;
 };
 
 class RibbonWidget final : public QWidget
@@ -147,9 +128,7 @@ public:
     explicit RibbonWidget(QWidget* parent) : QWidget(parent)
     {
         setAutoFillBackground(true);
-        QPalette own = palette();
-        own.setColor(QPalette::Window, theme().surface);
-        setPalette(own);
+        colour();
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(0, 0, 0, 1);
         column->setSpacing(0);
@@ -197,8 +176,8 @@ public:
             auto* page = new Page(each, &stack);
             stack.addWidget(page);
             bar.addTab(each.name);
-            for (Panel* panel : page->panels)
-                for (Button* button : panel->buttons)
+            for (RibbonGroup* panel : page->panels)
+                for (RibbonToolButton* button : panel->buttons)
                     add(button);
         }
         bar.setVisible(bar.count() > 1);
@@ -210,7 +189,7 @@ public:
     {
         if (changed)
             rebuild();
-        for (Button* button : buttons) {
+        for (RibbonToolButton* button : buttons) {
             if (hooks.isEnabled)
                 guarded([&] { button->setEnabled(hooks.isEnabled(button->id)); });
             if (hooks.isChecked) {
@@ -239,7 +218,7 @@ public:
     std::function<void(int)> onPage;
     QTabBar bar;
     QStackedWidget stack;
-    std::vector<Button*> buttons;
+    std::vector<RibbonToolButton*> buttons;
 
 protected:
     void paintEvent(QPaintEvent*) override
@@ -248,9 +227,23 @@ protected:
         painter.setPen(theme().border);
         painter.drawLine(0, height() - 1, width(), height() - 1);
     }
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+            markChanged();
+        if (event->type() == QEvent::PaletteChange && palette().color(QPalette::Window) != theme().surface)
+            colour();
+        QWidget::changeEvent(event);
+    }
 
 private:
-    void add(Button* button)
+    void colour()
+    {
+        QPalette own = palette();
+        own.setColor(QPalette::Window, theme().surface);
+        setPalette(own);
+    }
+    void add(RibbonToolButton* button)
     {
         buttons.push_back(button);
         connect(button, &QToolButton::clicked, this, [this, id = button->id] {
@@ -323,7 +316,7 @@ QWidget* ribbonButton(HWND ribbon, UINT id)
     if (!widget)
         return nullptr;
     widget->update();
-    for (Button* button : widget->buttons)
+    for (RibbonToolButton* button : widget->buttons)
         if (button->id == id)
             return button;
     return nullptr;

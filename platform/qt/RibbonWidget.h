@@ -1,6 +1,7 @@
 #pragma once
-// The drawing side of the ribbon: tabs over one row of titled panels. Where the row is too long, panels from the last
-// on show their small pictures.
+// The drawing side of the ribbon: tabs over one row of titled panels. Where the row is too long, panels turn one by one
+// into columns of three small buttons, those with most buttons first; a row that is still too long scrolls. The height
+// is always the same, and no state of a button changes a size.
 
 #include "winuser.h"
 
@@ -32,6 +33,7 @@ struct RibbonButton {
 struct RibbonPanel {
     QString name;
     std::vector<RibbonButton> buttons;
+    bool keepsLarge = false; // gives way to a lack of width after all others
 };
 struct RibbonPage {
     QString name;

@@ -88,7 +88,7 @@ SheetWidget* sheetWidget(HWND sheet)
 HWND createSheetWindow(HWND owner, const std::wstring& title, SheetActions actions,
                        const std::function<void(HWND)>& attach)
 {
-    auto* widget = new SheetWidget(isLive(owner) ? owner->widget->window() : nullptr);
+    auto* widget = new SheetWidget(ownerOf(owner));
     widget->actions = std::move(actions);
     HWND window = attachHandle(widget, L"OrvSheet", nullptr);
     window->style = WS_POPUP | WS_CAPTION | WS_SYSMENU;

@@ -1,10 +1,9 @@
 #include "platform/testing/ModalExpectation.h"
 
-#include "platform/qt/Native.h"
+#include "platform/qt/DialogWindow.h"
 
 #include <cxxabi.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -55,8 +54,7 @@ INT_PTR ModalScript::play(CWnd& window)
     }
     const Expectation next = std::move(running->expectations.front());
     running->expectations.pop_front();
-    if (window.m_hWnd)
-        window.ShowWindow(SW_SHOW);
+    presentModal(window.m_hWnd);
     INT_PTR result = IDCANCEL;
     ModalScript* const script = running;
     if (!next.run(window, result)) {
@@ -68,10 +66,6 @@ INT_PTR ModalScript::play(CWnd& window)
 
 void choosePath(CFileDialog& dialog, const std::wstring& path)
 {
-    if (!dialog.m_ofn.lpstrFile || dialog.m_ofn.nMaxFile == 0)
-        return;
-    const std::size_t count = std::min<std::size_t>(path.size(), dialog.m_ofn.nMaxFile - 1);
-    std::copy_n(path.begin(), count, dialog.m_ofn.lpstrFile);
-    dialog.m_ofn.lpstrFile[count] = L'\0';
+    dialog.TakePath(path);
 }
 } // namespace orvplatform::testing

@@ -35,11 +35,10 @@ DWORD errorOf(int number)
     }
 }
 
+// A backslash is a letter of a name here, as it is for streams.
 std::string platformPath(LPCWSTR path)
 {
-    std::string bytes = orvtext::toUtf8(path ? path : L"");
-    std::replace(bytes.begin(), bytes.end(), '\\', '/');
-    return bytes;
+    return orvtext::toUtf8(path ? path : L"");
 }
 
 // Success of a call that answers 0, with the error number kept.

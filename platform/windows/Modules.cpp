@@ -26,10 +26,9 @@ Registry& registry()
 }
 thread_local std::wstring moduleError;
 
-// The library's name on this platform: "/" as separator, ".so" for ".dll".
+// The library's name on this platform: ".so" for ".dll".
 std::wstring platformPath(std::wstring path)
 {
-    std::replace(path.begin(), path.end(), L'\\', L'/');
     if (path.size() > 4 && wcscasecmp(path.c_str() + path.size() - 4, L".dll") == 0)
         path.replace(path.size() - 4, 4, L".so");
     return path;

@@ -2,11 +2,18 @@
 
 #include "platform/Process.h"
 
+#include <arpa/inet.h>
 #include <netdb.h>
+#include <strings.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <fstream>
 #include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
 
 namespace orvplatform
 {
@@ -33,6 +40,61 @@ bool hasRoute(const addrinfo& address)
     close(descriptor);
     return routed;
 }
+
+bool hasRouteToNumber(const char* number)
+{
+    addrinfo hints{};
+    hints.ai_socktype = SOCK_DGRAM;
+    hints.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
+    addrinfo* found = nullptr;
+    if (getaddrinfo(number, service().port.c_str(), &hints, &found) != 0)
+        return false;
+    const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> addresses(found, &freeaddrinfo);
+    return hasRoute(*addresses);
+}
+
+bool isNumber(const std::string& host)
+{
+    unsigned char bytes[sizeof(in6_addr)];
+    const std::string plain = host.substr(0, host.find('%')); // without the zone
+    return inet_pton(AF_INET, plain.c_str(), bytes) == 1 || inet_pton(AF_INET6, plain.c_str(), bytes) == 1;
+}
+
+bool isSameName(const char* one, const std::string& other)
+{
+    return strcasecmp(one, other.c_str()) == 0;
+}
+
+// The addresses that the system's own table of hosts gives to the name. Nobody else is asked.
+std::vector<std::string> localAddresses(const std::string& name)
+{
+    std::vector<std::string> result;
+    if (isSameName("localhost", name))
+        result = {"127.0.0.1", "::1"};
+    std::ifstream table(_PATH_HOSTS);
+    for (std::string line; std::getline(table, line);) {
+        std::istringstream words(line.substr(0, line.find('#')));
+        std::string address;
+        words >> address;
+        for (std::string each; words >> each;)
+            if (isSameName(each.c_str(), name))
+                result.push_back(address);
+    }
+    return result;
+}
+
+bool isConnected()
+{
+    const std::string& host = service().host;
+    if (isNumber(host))
+        return hasRouteToNumber(host.c_str());
+    const std::vector<std::string> known = localAddresses(host);
+    if (!known.empty())
+        return std::any_of(known.begin(), known.end(), [](const auto& each) { return hasRouteToNumber(each.c_str()); });
+    // To learn any other name's address a packet would have to go out. Whoever can reach the outer world at all can
+    // ask for it later; these addresses are set aside for documentation and stand for the outer world.
+    return hasRouteToNumber("192.0.2.1") || hasRouteToNumber("2001:db8::1");
+}
 } // namespace
 
 void setServiceAddress(const std::string& host, unsigned short port)
@@ -49,20 +111,8 @@ void setConnectedForTest(std::optional<bool> connected)
 
 BOOL InternetGetConnectedState(LPDWORD flags, DWORD)
 {
-    const auto& service = orvplatform::service();
-    bool connected = false;
-    if (service.forced) {
-        connected = *service.forced;
-    } else {
-        addrinfo hints{};
-        hints.ai_socktype = SOCK_DGRAM;
-        addrinfo* found = nullptr;
-        if (getaddrinfo(service.host.c_str(), service.port.c_str(), &hints, &found) == 0) {
-            const std::unique_ptr<addrinfo, decltype(&freeaddrinfo)> addresses(found, &freeaddrinfo);
-            for (const addrinfo* each = found; each && !connected; each = each->ai_next)
-                connected = orvplatform::hasRoute(*each);
-        }
-    }
+    const std::optional<bool>& forced = orvplatform::service().forced;
+    const bool connected = forced ? *forced : orvplatform::isConnected();
     if (flags)
         *flags = connected ? INTERNET_CONNECTION_LAN : INTERNET_CONNECTION_OFFLINE;
     return connected;

@@ -94,5 +94,6 @@ BOOL MapDialogRect(HWND dialog, LPRECT rect);
 HICON LoadIconW(HINSTANCE module, LPCWSTR name); // shared: the same at every call, not to be destroyed
 HANDLE LoadImageW(HINSTANCE module, LPCWSTR name, UINT type, int width, int height, UINT flags); // IMAGE_ICON
 BOOL DestroyIcon(HICON icon);
+HICON CopyIcon(HICON icon); // null for a bad handle
 int GetSystemMetrics(int index); // SM_CXICON, SM_CYICON, SM_CXSMICON, SM_CYSMICON
 COLORREF GetSysColor(int index); // COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_BTNFACE, COLOR_HOTLIGHT

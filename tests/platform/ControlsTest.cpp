@@ -1,5 +1,9 @@
 #include "FormMaps.h"
 
+#include "platform/qt/Native.h"
+
+#include <QtWidgets>
+
 using namespace orvplatform::testing;
 
 namespace
@@ -165,4 +169,55 @@ TEST_F(Controls, MeasureTextInOneLine)
     EXPECT_FALSE(GetTextExtentPoint32W(context, nullptr, 1, &size));
     EXPECT_TRUE(GetTextExtentPoint32W(context, L"", 0, &size));
     EXPECT_EQ(size.cx, 0);
+}
+
+namespace
+{
+// The accent is the only blue; letters are drawn in shades of their colour.
+bool showsBlue(CWnd& window)
+{
+    const QImage picture = orvplatform::widgetOf(window.m_hWnd)->grab().toImage();
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (const QColor each = picture.pixelColor(x, y); each.blue() - each.red() > 60)
+                return true;
+    return false;
+}
+} // namespace
+
+TEST_F(Controls, DrawsAWebLinkInTheColourOfLinks)
+{
+    EXPECT_TRUE(showsBlue(*form.GetDlgItem(56)));
+    EXPECT_FALSE(showsBlue(*form.GetDlgItem(50)));
+    EXPECT_EQ(orvplatform::widgetOf(form.GetDlgItem(56)->m_hWnd)->cursor().shape(), Qt::PointingHandCursor);
+}
+
+TEST_F(Controls, KeepsAnAddressInATextInOnePiece)
+{
+    CWnd frame;
+    frame.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 400, 200), nullptr, 0);
+    HWND text = CreateWindowExW(0, L"SysLink", L"See <a href=\"http://a.test:8640/b\">http://a.test:8640/b</a>",
+                                WS_CHILD, 0, 0, 160, 80, frame.m_hWnd, nullptr, nullptr, nullptr);
+    const auto* label = qobject_cast<QLabel*>(orvplatform::widgetOf(text));
+    ASSERT_NE(label, nullptr);
+    QTextDocument laidOut;
+    laidOut.setDefaultFont(label->font());
+    laidOut.setDocumentMargin(0);
+    laidOut.setHtml(label->text());
+    const QString plain = laidOut.toPlainText();
+    const qsizetype from = plain.indexOf(u'h');
+    for (int width = 160; width > QFontMetrics(label->font()).horizontalAdvance("http://a.test:8640/b"); --width) {
+        laidOut.setTextWidth(width);
+        ASSERT_GT(laidOut.size().height(), 0); // lays it out
+        const QTextLayout* lines = laidOut.firstBlock().layout();
+        for (int i = 0; i < lines->lineCount(); ++i)
+            EXPECT_FALSE(lines->lineAt(i).textStart() > from) << "at " << width << " pixels";
+    }
+    // One that has no room breaks, but never within "http://".
+    SetWindowTextW(text, L"<a href=\"x\">http://a.very.long.name.of.a.host.example.test/with/a/path</a>");
+    laidOut.setHtml(label->text());
+    laidOut.setTextWidth(60);
+    ASSERT_GT(laidOut.size().height(), 0);
+    ASSERT_GT(laidOut.firstBlock().layout()->lineCount(), 1);
+    EXPECT_GE(laidOut.firstBlock().layout()->lineAt(1).textStart(), 8);
 }

@@ -1,7 +1,10 @@
 #include "FormMaps.h"
 
+#include "platform/qt/Native.h"
+
 #include <QApplication>
 #include <QFileDialog>
+#include <QScreen>
 #include <QTemporaryDir>
 
 #include <stdexcept>
@@ -354,4 +357,46 @@ TEST(DialogLoop, AsksForAFileWithTheGivenFilterAndExtension)
                   cancelled),
               IDCANCEL);
     EXPECT_EQ(cancelled.GetPathName(), L"part. ");
+}
+
+constexpr int frame = 4; // pixels that the system may put around a window
+
+TEST_F(Dialog, OpensOverTheMainWindow)
+{
+    QWidget main;
+    main.setGeometry(200, 120, 500, 400);
+    main.show();
+    orvplatform::setMainWindow(&main);
+    for (int round = 0; round < 2; ++round) {
+        Form form;
+        script.expectModal<Form>([&](Form& dialog) {
+            const QWidget& widget = *orvplatform::widgetOf(dialog.m_hWnd);
+            EXPECT_EQ(widget.parentWidget(), &main);
+            EXPECT_TRUE(widget.isModal());
+            EXPECT_NEAR(widget.geometry().center().x(), main.geometry().center().x(), frame);
+            EXPECT_NEAR(widget.geometry().center().y(), main.geometry().center().y(), frame);
+            return IDCANCEL;
+        });
+        EXPECT_EQ(form.DoModal(), IDCANCEL);
+    }
+    orvplatform::setMainWindow(nullptr);
+}
+
+TEST_F(Dialog, StaysWholeOnTheScreen)
+{
+    QWidget main;
+    const QRect screen = main.screen()->availableGeometry();
+    orvplatform::setMainWindow(&main);
+    for (const QPoint corner : {screen.topLeft(), screen.bottomRight() - QPoint(60, 40)}) {
+        main.setGeometry(QRect(corner, QSize(60, 40)));
+        main.show();
+        Form form;
+        script.expectModal<Form>([&](Form& dialog) {
+            const QRect place = orvplatform::widgetOf(dialog.m_hWnd)->geometry();
+            EXPECT_TRUE(screen.adjusted(0, 0, frame, frame).contains(place)) << place.x() << ", " << place.y();
+            return IDCANCEL;
+        });
+        form.DoModal();
+    }
+    orvplatform::setMainWindow(nullptr);
 }

@@ -13,7 +13,7 @@ const std::wstring folder = std::filesystem::path(TEST_LIBRARIES).wstring();
 
 TEST(Module, LoadsALibraryUnderItsOtherName)
 {
-    HMODULE module = LoadLibraryW((folder + L"\\platformtestlibrary.dll").c_str());
+    HMODULE module = LoadLibraryW((folder + L"/platformtestlibrary.dll").c_str());
     ASSERT_NE(module, nullptr);
     auto* answer = reinterpret_cast<int (*)()>(GetProcAddress(module, "answer"));
     ASSERT_NE(answer, nullptr);

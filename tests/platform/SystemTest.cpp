@@ -1,3 +1,4 @@
+#include "afxwin.h"
 #include "objbase.h"
 #include "platform/Process.h"
 #include "platform/text/Text.h"
@@ -6,17 +7,38 @@
 
 #include <gtest/gtest.h>
 
+#include <dlfcn.h>
+#include <netdb.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 namespace fs = std::filesystem;
 
 namespace
 {
+int namesAsked = 0; // how often a name was to be looked up, which sends packets
+
+// Whether the system's table of routes has one for everything.
+bool hasDefaultRoute()
+{
+    std::ifstream table("/proc/net/route");
+    std::string line;
+    std::getline(table, line);
+    while (std::getline(table, line)) {
+        std::istringstream words(line);
+        std::string interface, destination;
+        words >> interface >> destination;
+        if (destination == "00000000")
+            return true;
+    }
+    return false;
+}
+
 class System : public ::testing::Test
 {
 protected:
@@ -37,6 +59,16 @@ protected:
     const fs::path folder;
 };
 } // namespace
+
+// Stands before the system's own, also for the library under test.
+extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo* hints, addrinfo** found)
+{
+    if (name && !(hints && (hints->ai_flags & AI_NUMERICHOST)))
+        ++namesAsked;
+    using Function = int (*)(const char*, const char*, const addrinfo*, addrinfo**);
+    static const auto real = reinterpret_cast<Function>(dlsym(RTLD_NEXT, "getaddrinfo"));
+    return real(name, service, hints, found);
+}
 
 TEST_F(System, CreatesFilesForTheUserAlone)
 {
@@ -71,9 +103,19 @@ TEST_F(System, MakesAndRemovesDirectories)
     std::ofstream(folder / "Cloud" / "share") << "";
     EXPECT_FALSE(RemoveDirectoryW(path("Cloud").c_str()));
     EXPECT_EQ(GetLastError(), ERROR_DIR_NOT_EMPTY);
-    EXPECT_TRUE(DeleteFileW((folder.wstring() + L"\\Cloud\\share").c_str()));
+    EXPECT_TRUE(DeleteFileW((folder.wstring() + L"/Cloud/share").c_str()));
     EXPECT_TRUE(RemoveDirectoryW(path("Cloud").c_str()));
     EXPECT_FALSE(DeleteFileW(path("Cloud").c_str()));
+}
+
+TEST_F(System, TakesABackslashForALetterOfTheName)
+{
+    EXPECT_TRUE(CreateDirectoryW(path("a\\b").c_str(), nullptr));
+    EXPECT_TRUE(fs::is_directory(folder / "a\\b"));
+    CloseHandle(CreateFileW(path("a\\b/c\\d").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
+    EXPECT_TRUE(fs::is_regular_file(folder / "a\\b" / "c\\d"));
+    EXPECT_TRUE(DeleteFileW(path("a\\b/c\\d").c_str()));
+    EXPECT_TRUE(RemoveDirectoryW(path("a\\b").c_str()));
 }
 
 TEST_F(System, NamesTheComputer)
@@ -93,7 +135,11 @@ TEST_F(System, KnowsWhetherTheServiceHasARoute)
 {
     orvplatform::setServiceAddress("127.0.0.1", 8640); // nothing listens there, and nothing needs to
     EXPECT_TRUE(InternetGetConnectedState(nullptr, 0));
-    orvplatform::setServiceAddress("no.such.host.invalid", 80);
+    for (const char* local : {"localhost", "LocalHost", "::ffff:127.0.0.1"}) {
+        orvplatform::setServiceAddress(local, 8640);
+        EXPECT_TRUE(InternetGetConnectedState(nullptr, 0)) << local;
+    }
+    orvplatform::setServiceAddress("255.255.255.255", 80); // a plain socket may not broadcast
     DWORD flags = 0;
     EXPECT_FALSE(InternetGetConnectedState(&flags, 0));
     EXPECT_EQ(flags, INTERNET_CONNECTION_OFFLINE);
@@ -104,6 +150,28 @@ TEST_F(System, KnowsWhetherTheServiceHasARoute)
     EXPECT_FALSE(InternetGetConnectedState(nullptr, 0));
     orvplatform::setConnectedForTest(std::nullopt);
     EXPECT_TRUE(InternetGetConnectedState(nullptr, 0));
+}
+
+TEST_F(System, AsksNobodyForTheAddressOfAName)
+{
+    orvplatform::setServiceAddress("no.such.host.invalid", 80);
+    namesAsked = 0;
+    const BOOL connected = InternetGetConnectedState(nullptr, 0);
+    EXPECT_EQ(namesAsked, 0);
+    if (hasDefaultRoute()) {
+        EXPECT_TRUE(connected);
+    }
+    orvplatform::setServiceAddress("127.0.0.1", 8640);
+}
+
+TEST_F(System, KeepsABusyCursorToItselfBeforeThereIsAnApplication)
+{
+    {
+        CWaitCursor cursor;
+        cursor.Restore();
+        EXPECT_EQ(orvplatform::waitCursorDepth(), 1);
+    }
+    EXPECT_EQ(orvplatform::waitCursorDepth(), 0);
 }
 
 TEST_F(System, StreamsAMemoryBlock)

@@ -1,0 +1,413 @@
+#include "platform/qt/PaneTabs.h"
+
+#include "platform/Process.h"
+#include "platform/qt/Gdi.h"
+#include "platform/qt/Look.h"
+#include "platform/qt/Window.h"
+
+#include <QtWidgets>
+
+namespace orvplatform
+{
+namespace
+{
+// Small pictures of the pane's own buttons, drawn in the colour of quiet text.
+template <class Draw>
+QIcon drawn(Draw draw)
+{
+    QPixmap picture(measures::smallIcon, measures::smallIcon);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(theme().mutedText, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    draw(painter);
+    return picture;
+}
+QIcon floatIcon()
+{
+    return drawn([](QPainter& painter) {
+        painter.drawRoundedRect(QRectF(2.5, 5.5, 8, 8), 1.5, 1.5);
+        painter.drawPolyline(QPolygonF({{5.5, 2.5}, {13.5, 2.5}, {13.5, 10.5}}));
+    });
+}
+QIcon pinIcon(bool pinned)
+{
+    return drawn([pinned](QPainter& painter) {
+        // Upright it holds the side bar, lying it lets it go.
+        painter.translate(8, 8);
+        painter.rotate(pinned ? 0 : 90);
+        painter.drawRect(QRectF(-2.5, -5.5, 5, 6.5));
+        painter.drawLine(QPointF(-4.5, 1), QPointF(4.5, 1));
+        painter.drawLine(QPointF(0, 1), QPointF(0, 6));
+    });
+}
+
+// The slid-out panes' edge, which is drawn to make them wider or narrower.
+class Edge final : public QWidget
+{
+public:
+    Edge(QWidget* parent, std::function<void(int)> drag) : QWidget(parent), dragged(std::move(drag))
+    {
+        setFixedWidth(measures::grid);
+        setCursor(Qt::SplitHCursor);
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override { event->accept(); }
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (event->buttons() & Qt::LeftButton)
+            dragged(event->globalPosition().toPoint().x());
+    }
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.setPen(theme().border);
+        painter.drawLine(0, 0, 0, height());
+    }
+
+private:
+    std::function<void(int)> dragged;
+};
+
+void prepare(QToolButton& button, const QString& tip)
+{
+    button.setToolTip(tip);
+    button.setAccessibleName(tip);
+    button.setAutoRaise(true);
+    button.setFocusPolicy(Qt::TabFocus);
+}
+
+void hideAll(QWidget& widget)
+{
+    // A hidden focus would jump to some neighbour.
+    if (QWidget* focus = QApplication::focusWidget(); focus && widget.isAncestorOf(focus))
+        focus->clearFocus();
+    widget.hide();
+}
+} // namespace
+
+void PaneFrame::resizeEvent(QResizeEvent*)
+{
+    if (HWND window = control ? existingHandle(control) : nullptr)
+        MoveWindow(window, 0, 0, width(), height(), TRUE);
+}
+
+PaneTabs::PaneTabs(QWidget* parent)
+    : QWidget(parent), bar(*new QTabBar), stack(*new QStackedWidget), opened(new QWidget(this)),
+      strip(new QWidget(this)), edge(new Edge(opened, [this](int x) { drawEdge(x); })), floatButton(*new QToolButton),
+      pinButton(*new QToolButton), slideWidth(measures::sideBarWidth)
+{
+    opened->setAutoFillBackground(true);
+    bar.setExpanding(false);
+    bar.setDrawBase(false);
+    bar.setUsesScrollButtons(true);
+    bar.setFocusPolicy(Qt::TabFocus);
+    prepare(floatButton, tr("Show this pane in a window of its own"));
+    floatButton.setIcon(floatIcon());
+    prepare(pinButton, {});
+    pinButton.setObjectName(QStringLiteral("pin"));
+    auto* header = new QHBoxLayout;
+    header->setContentsMargins(measures::grid, measures::grid, measures::grid, 0);
+    header->setSpacing(0);
+    header->addWidget(&bar, 1);
+    header->addWidget(&floatButton);
+    header->addWidget(&pinButton);
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addLayout(header);
+    column->addWidget(&stack, 1);
+    auto* row = new QHBoxLayout(opened);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(edge);
+    row->addLayout(column, 1);
+    edge->hide();
+    auto* icons = new QVBoxLayout(strip);
+    icons->setContentsMargins(measures::grid, measures::grid, measures::grid, measures::grid);
+    icons->setSpacing(measures::grid);
+    icons->addStretch(1);
+    strip->setFixedWidth(measures::foldedSideBar);
+    strip->hide();
+    showPin();
+    hover.setSingleShot(true);
+    hover.setInterval(300);
+    leave.setSingleShot(true);
+    leave.setInterval(600);
+    connect(&bar, &QTabBar::currentChanged, this, [this](int index) { choose(index); });
+    connect(&floatButton, &QToolButton::clicked, this, [this] { setFloating(bar.currentIndex(), true); });
+    connect(&pinButton, &QToolButton::clicked, this, [this] { setFolded(!isFolded()); });
+    connect(&hover, &QTimer::timeout, this, [this] { slideOut(hovered, false); });
+    connect(&leave, &QTimer::timeout, this, [this] {
+        if (!isUsed())
+            slideIn();
+    });
+}
+
+PaneTabs::~PaneTabs()
+{
+    // Slid out, the panes belong to the window, which may be ending before.
+    if (opened) {
+        bar.disconnect(this);
+        delete opened;
+    }
+}
+
+void PaneTabs::setFloating(int index, bool floating)
+{
+    Pane* pane = at(index);
+    if (!pane || !pane->frame || pane->frame->isWindow() == floating)
+        return;
+    PaneFrame& frame = *pane->frame;
+    if (floating) {
+        const QSize size = frame.size();
+        const QPoint place = mapToGlobal(QPoint(-size.width() / 2, measures::cardTitle));
+        slideIn();
+        frame.setParent(window(), Qt::Tool);
+        if (!frame.canResize)
+            frame.setFixedSize(size);
+        else
+            frame.setMinimumSize(measures::sideBarWidth / 2, measures::sideBarWidth / 2);
+        frame.resize(size);
+        frame.move(place);
+    } else {
+        frame.setMinimumSize(0, 0);
+        frame.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+        frame.setParent(pane->page, Qt::Widget);
+        pane->page->layout()->addWidget(&frame);
+    }
+    renewFonts(&frame);
+    pane->note->setVisible(floating);
+    frame.show();
+    updateButtons();
+}
+
+bool PaneTabs::isFolded() const
+{
+    return !strip->isHidden();
+}
+
+void PaneTabs::setFolded(bool fold)
+{
+    if (fold == isFolded())
+        return;
+    if (fold) {
+        slideWidth = std::max(width(), measures::sideBarWidth / 2);
+        strip->show();
+        hideAll(*opened);
+    } else {
+        stopWatching();
+        strip->hide();
+        edge->hide();
+        opened->setParent(this);
+        renewFonts(opened);
+        opened->show();
+    }
+    showPin();
+    arrange();
+    updateGeometry(); // the bar asks for another width
+}
+
+void PaneTabs::slideOut(int index, bool take)
+{
+    Pane* pane = at(index);
+    if (!isFolded() || !pane)
+        return;
+    if (pane->frame && pane->frame->isWindow()) {
+        pane->frame->raise();
+        pane->frame->activateWindow();
+        return;
+    }
+    bar.setCurrentIndex(index);
+    if (!isSlidOut()) {
+        opened->setParent(window());
+        // A view that draws into a window of the system's is covered only by such a window.
+        const QList<QWidget*> below = window()->findChildren<QWidget*>();
+        if (std::any_of(below.begin(), below.end(),
+                        [](const QWidget* each) { return each->testAttribute(Qt::WA_PaintOnScreen); })) {
+            opened->setAttribute(Qt::WA_DontCreateNativeAncestors);
+            opened->setAttribute(Qt::WA_NativeWindow);
+        }
+        renewFonts(opened);
+        edge->show();
+        arrange();
+        opened->show();
+        opened->raise();
+        qApp->installEventFilter(this);
+    }
+    taken = taken || take;
+    if (take)
+        focusWithin(pane->frame);
+}
+
+void PaneTabs::slideIn()
+{
+    if (!isSlidOut())
+        return;
+    stopWatching();
+    opened->setParent(this);
+    edge->hide();
+    hideAll(*opened);
+    arrange();
+}
+
+bool PaneTabs::isSlidOut() const
+{
+    return isFolded() && opened && opened->parentWidget() != this && !opened->isHidden();
+}
+
+void PaneTabs::choose(int index)
+{
+    if (index < 0)
+        return;
+    stack.setCurrentIndex(index);
+    updateButtons();
+    if (chosen)
+        guarded([this, index] { chosen(index); });
+}
+
+PaneTabs::Pane* PaneTabs::at(int index)
+{
+    return index >= 0 && index < static_cast<int>(panes.size()) ? &panes[static_cast<std::size_t>(index)] : nullptr;
+}
+
+int PaneTabs::indexOf(const PaneFrame* frame) const
+{
+    for (std::size_t i = 0; i < panes.size(); ++i)
+        if (panes[i].frame == frame)
+            return static_cast<int>(i);
+    return -1;
+}
+
+void PaneTabs::addOpener(QToolButton& opener, int index)
+{
+    static_cast<QVBoxLayout*>(strip->layout())->insertWidget(index, &opener);
+    opener.setIconSize({measures::smallIcon + measures::grid, measures::smallIcon + measures::grid});
+    opener.setAutoRaise(true);
+    opener.setFocusPolicy(Qt::TabFocus);
+    opener.installEventFilter(this);
+    connect(&opener, &QToolButton::clicked, this, [this, index] {
+        hover.stop();
+        const bool again = isSlidOut() && taken && bar.currentIndex() == index;
+        again ? slideIn() : slideOut(index, true);
+    });
+}
+
+void PaneTabs::updateButtons()
+{
+    const Pane* pane = at(bar.currentIndex());
+    const bool docked = pane && pane->frame && !pane->frame->isWindow();
+    floatButton.setVisible(docked && pane->frame->canFloat);
+    pinButton.setVisible(pane && pane->frame && pane->frame->canFold);
+}
+
+void PaneTabs::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        floatButton.setIcon(floatIcon());
+        showPin();
+    }
+    QWidget::changeEvent(event);
+}
+
+bool PaneTabs::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* widget = qobject_cast<QWidget*>(watched);
+    switch (event->type()) {
+    case QEvent::Enter:
+        for (std::size_t i = 0; i < panes.size(); ++i)
+            if (panes[i].opener == watched) {
+                hovered = static_cast<int>(i);
+                hover.start();
+            }
+        break;
+    case QEvent::Leave:
+        if (widget && widget->parentWidget() == strip)
+            hover.stop();
+        if (isSlidOut() && !taken)
+            leave.start();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (isSlidOut() && widget && widget->isAncestorOf(this))
+            arrange();
+        break;
+    case QEvent::MouseButtonPress:
+        if (isSlidOut() && widget && widget->window() == window())
+            contains(widget) ? void(taken = true) : slideIn();
+        break;
+    case QEvent::FocusIn:
+        if (isSlidOut() && taken && widget && !widget->isWindow() && widget->window() == window() && !contains(widget))
+            slideIn();
+        break;
+    case QEvent::KeyPress:
+        if (isSlidOut() && widget && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && contains(widget)) {
+            slideIn();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void PaneTabs::showPin()
+{
+    pinButton.setIcon(pinIcon(!isFolded()));
+    const QString tip = isFolded() ? tr("Keep the side bar open") : tr("Hide the side bar while it is not used");
+    pinButton.setToolTip(tip);
+    pinButton.setAccessibleName(tip);
+}
+
+void PaneTabs::focusWithin(const QWidget* frame)
+{
+    for (QWidget* each = frame ? frame->nextInFocusChain() : nullptr; each && each != frame;
+         each = each->nextInFocusChain())
+        if (frame->isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) && each->isVisible() && each->isEnabled())
+            return each->setFocus(Qt::TabFocusReason);
+    bar.setFocus(Qt::TabFocusReason);
+}
+
+bool PaneTabs::contains(const QWidget* widget) const
+{
+    return widget == opened || opened->isAncestorOf(widget) || widget == strip || strip->isAncestorOf(widget);
+}
+
+bool PaneTabs::isUsed() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    return !isSlidOut() || taken || opened->underMouse() || strip->underMouse() ||
+           (focus && opened->isAncestorOf(focus)) || QApplication::activePopupWidget();
+}
+
+void PaneTabs::stopWatching()
+{
+    qApp->removeEventFilter(this);
+    hover.stop();
+    leave.stop();
+    taken = false;
+}
+
+void PaneTabs::arrange()
+{
+    if (!opened)
+        return;
+    strip->setGeometry(width() - strip->width(), 0, strip->width(), height());
+    if (opened->parentWidget() == this) {
+        opened->setGeometry(rect());
+        return;
+    }
+    const QPoint corner = mapTo(window(), QPoint(strip->x(), 0));
+    const int left = std::max(corner.x() - slideWidth, 0);
+    opened->setGeometry(left, corner.y(), corner.x() - left, height());
+}
+
+void PaneTabs::drawEdge(int globalX)
+{
+    const int right = opened->mapToGlobal(QPoint(opened->width(), 0)).x();
+    slideWidth = std::clamp(right - globalX, measures::sideBarWidth / 2, 2 * measures::sideBarWidth);
+    arrange();
+}
+
+} // namespace orvplatform
