@@ -3,14 +3,37 @@
 #include "support/FileWatch.h"
 #include "support/PluginEnvironment.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
 
 using orvtest::contentOf;
 using orvtest::writeFile;
+
+namespace
+{
+
+/// What has reached the file after each write of this program; null while nobody asks.
+std::vector<std::string>* contents = nullptr;
+
+} // namespace
+
+/// Stands before the system's function throughout this program.
+extern "C" ssize_t write(int file, void const* data, std::size_t size)
+{
+    if (contents != nullptr) {
+        std::string const before = contents->empty() ? std::string() : contents->back();
+        contents->push_back(before + std::string(static_cast<char const*>(data), size));
+    }
+    return syscall(SYS_write, file, data, size);
+}
 
 namespace
 {
@@ -54,6 +77,19 @@ TEST_F(SessionStore, EndsEveryLine)
     EXPECT_EQ(contentOf(environment.session()), "ada@example.com\n0f8fad5b-d9cb-469f-a165-70867728950e\nAda\n");
     session.write(L"", L"");
     EXPECT_EQ(contentOf(environment.session()), "\n\n") << "the longer text before is gone";
+}
+
+TEST_F(SessionStore, FlushesAtEachLineEnd)
+{
+    std::vector<std::string> seen;
+    SessionFile const session;
+    contents = &seen;
+    session.write(L"ada@example.com", L"token", L"Ada");
+    contents = nullptr;
+    EXPECT_THAT(seen, testing::Contains("ada@example.com\n"));
+    EXPECT_THAT(seen, testing::Contains("ada@example.com\ntoken\n"));
+    ASSERT_FALSE(seen.empty());
+    EXPECT_EQ(seen.back(), "ada@example.com\ntoken\nAda\n");
 }
 
 TEST_F(SessionStore, ReadsBackWhatItWrote)
