@@ -28,8 +28,9 @@ Answer readFeed(const Call& call)
     const std::string& spelling = call["username"];
     const bool respells = spelling != call.account.email;
     call.parts.store.readFeed(model->modelId, [&](std::string_view record, std::int64_t author) {
-        return feed.add(respells && author == call.account.id ? withAuthorsAddress(record, spelling)
-                                                              : std::string(record));
+        if (respells && author == call.account.id)
+            return feed.add(withAuthorsAddress(record, spelling));
+        return feed.add(record);
     });
     Answer answer = succeed(feed.finish());
     answer.contentType = "application/json";

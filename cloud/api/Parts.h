@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cloud/accounts/DailyCount.h"
 #include "cloud/accounts/Passwords.h"
 #include "cloud/accounts/Throttle.h"
 #include "cloud/base/Text.h"
@@ -20,6 +21,7 @@ struct Parts {
     Mailer& mailer;
     const Passwords& passwords;
     Throttle& throttle;
+    DailyCount& invitations;
     Clock clock;
     std::string apiId; ///< the application that is let in, and its key
     std::string apiKey;

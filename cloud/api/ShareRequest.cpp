@@ -40,6 +40,12 @@ Answer shareModel(const Call& call)
     if (addresses.size() > mostInvitations)
         return fail(400, "Invite at most 100 people at a time; nobody was invited.");
 
+    const std::int64_t wait = parts.invitations.take(call.account.id, static_cast<std::int64_t>(addresses.size()));
+    if (wait > 0) {
+        Answer answer = fail(429, "You have invited many people today; invite these ones tomorrow.");
+        answer.headers.emplace_back("Retry-After", std::to_string(wait));
+        return answer;
+    }
     const std::int64_t now = parts.clock();
     parts.store.share(model->modelId, addresses, now);
     for (const std::string& address : addresses)

@@ -13,6 +13,8 @@ namespace orvcloud
 {
 namespace
 {
+constexpr std::int64_t mostInvitationsInADay = 500;
+
 /// The host of a web address, e.g. "cloud.example" of "https://cloud.example:8443/x".
 std::string hostOf(const std::string& url)
 {
@@ -43,7 +45,7 @@ public:
     explicit Impl(Config given)
         : config(std::move(given)), directory(config.dataDirectory, DataDirectory::Use::exclusive),
           store(openSqliteStore(config.dataDirectory)), vault(config.dataDirectory), passwords(config.hashCost),
-          throttle(config.clock)
+          throttle(config.clock), invitations(config.clock, mostInvitationsInADay)
     {
         listen();
         const std::string address = scheme() + server->address();
@@ -56,8 +58,8 @@ public:
             throw std::runtime_error("\"" + config.mailSender + "\" isn't a mail address to send from.");
         mailer = makeMailer({config.dataDirectory, config.smtpUrl, config.smtpPassword, config.mailSender, config.log});
         application.api = std::make_unique<Api>(Parts{
-            *store, vault, *mailer, passwords, throttle, config.clock, config.apiId, config.apiKey, config.publicUrl,
-            config.mailSender, usersComeOverTls(), config.limits.uploadBytes, config.commentQuota});
+            *store, vault, *mailer, passwords, throttle, invitations, config.clock, config.apiId, config.apiKey,
+            config.publicUrl, config.mailSender, usersComeOverTls(), config.limits.uploadBytes, config.commentQuota});
         store->dropSessionsUnusedSince(config.clock() - sessionLength);
         server->start();
     }
@@ -98,6 +100,7 @@ private:
     FileVault vault;
     Passwords passwords;
     Throttle throttle;
+    DailyCount invitations;
     std::unique_ptr<Mailer> mailer;
     Behind application;
     std::unique_ptr<Server> server;

@@ -54,6 +54,40 @@ TEST_F(Share, InvitesAllOrNobody)
     EXPECT_EQ(get(bob, "/api/isFilePresent/", {{"filename", "a.step"}}).body, "");
 }
 
+TEST_F(Share, SendsNoMoreThanSoManyMailsADay)
+{
+    const auto invite = [&](int first) {
+        std::string many;
+        for (int i = first; i < first + 100; ++i)
+            many += "user" + std::to_string(i) + "@example.org,";
+        return share(ann, job, many, "");
+    };
+    for (int i = 0; i < 5; ++i)
+        ASSERT_EQ(invite(i * 100).status, 200);
+    const Reply refused = share(ann, job, "bob@example.org", "");
+    EXPECT_EQ(refused.status, 429);
+    const std::int64_t wait = std::stoll(refused.headers.at("retry-after"));
+    EXPECT_EQ(get(bob, "/api/isFilePresent/", {{"filename", "a.step"}}).body, "") << "nobody was invited";
+    EXPECT_EQ(outbox().size(), 500U);
+    EXPECT_EQ(share(bob, push(bob, "b.step"), "ann@example.org", "").status, 200) << "each has a count of their own";
+    *now += wait - 1;
+    EXPECT_EQ(share(ann, job, "bob@example.org", "").status, 429);
+    *now += 1;
+    EXPECT_EQ(share(ann, job, "bob@example.org", "").status, 200);
+}
+
+TEST_F(Share, QuotesAWrongAddressInOneLine)
+{
+    std::string address = "a\r\nb";
+    while (address.size() < 400)
+        address += "\xC3\xA4";
+    const Reply reply = share(ann, job, address, "");
+    EXPECT_EQ(reply.status, 400);
+    EXPECT_FALSE(hasControlCharacter(reply.body)) << reply.body;
+    EXPECT_TRUE(isUtf8(reply.body)) << "cut between characters";
+    EXPECT_THAT(reply.body, HasSubstr("a??b\xC3\xA4"));
+}
+
 TEST_F(Share, WaitsForAnAccount)
 {
     EXPECT_EQ(share(ann, job, "later@example.org", "").body, "1");

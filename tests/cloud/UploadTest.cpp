@@ -1,4 +1,5 @@
 #include "cloud/RunningService.h"
+#include "cloud/store/SqliteStore.h"
 
 #include <fstream>
 #include <gmock/gmock.h>
@@ -58,6 +59,16 @@ TEST_F(Upload, TheSameNameKeepsItsJobIdAndItsFeed)
     ASSERT_EQ(comment(ann, job, "c1", "{}").body, "ok");
     EXPECT_EQ(upload(ann, "a.step", "new", "/api/Upload/", "orvanta").body, job);
     EXPECT_EQ(upload(ann, "a.step", "picture", "/api/Upload/", "png").body, job);
+    const auto store = openSqliteStore(config.dataDirectory);
+    const auto model = store->accessTo(store->findAccount(ann.email).value(), job)->modelId;
+    std::string versions;
+    for (const ModelVersion& version : store->versionsOf(model)) {
+        versions += version.type + "/" + std::to_string(version.size) + " ";
+        EXPECT_EQ(version.contentHash.size(), 64U);
+    }
+    EXPECT_EQ(versions, "prc/13 orvanta/3 png/7 ");
+    EXPECT_EQ(store->versionsOf(model)[1].contentHash,
+              "11507a0e2f5e69d5dfa40a62a1bd7b6ee57e6bcd85c67c9b8431b36fff21c437"); // SHA-256 of "new"
     EXPECT_EQ(feed(ann, job).size(), 7U) << "one comment and the six automatic entries of the first upload";
     EXPECT_EQ(storedFiles().size(), 3U);
     EXPECT_NE(push(ann, "b.step"), job);
