@@ -1,15 +1,11 @@
 #include "feed/FeedReader.h"
 
 #include "platform/text/Text.h"
-
-#include <json/json.h>
+#include "service/JsonText.h"
 
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
-
-// The records' texts were written for this reader's rules; the library's newer one takes other texts.
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace
 {
@@ -121,12 +117,12 @@ std::vector<Feed> FeedReader::read(std::wstring const& response) const
 {
     std::vector<Feed> feeds;
     Json::Value root;
-    if (!Json::Reader().parse(orvtext::toUtf8(response), root) || root.size() == 0) {
+    if (!parseJson(orvtext::toUtf8(response), root) || root.size() == 0) {
         return feeds;
     }
     for (Json::ArrayIndex i = 0; i < root.size(); ++i) {
         Json::Value document;
-        if (!Json::Reader().parse(narrowTextOf(root[i]["Content"]), document)) {
+        if (!parseJson(narrowTextOf(root[i]["Content"]), document)) {
             continue;
         }
         Feed feed = recordOf(document);

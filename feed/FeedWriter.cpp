@@ -1,12 +1,8 @@
 #include "feed/FeedWriter.h"
 
 #include "platform/text/Text.h"
+#include "service/JsonText.h"
 #include "service/ReplaceAll.h"
-
-#include <json/json.h>
-
-// The exact text of this writer is what the service stores and compares; the library's newer one writes another.
-#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
 namespace
 {
@@ -87,5 +83,5 @@ std::wstring FeedWriter::write(Feed const& feed) const
     root["thumbnail"] = textValue(feed.thumbnail);
 
     // Over the whole text, what users wrote included: that is how records stand at the service.
-    return orvtext::fromUtf8(replaceAll(Json::FastWriter().write(root), "null", "[]"));
+    return orvtext::fromUtf8(replaceAll(writeJson(root), "null", "[]"));
 }

@@ -1,5 +1,6 @@
 #include "feed/FeedWriter.h"
 
+#include "feed/CommaLocale.h"
 #include "feed/FeedReader.h"
 #include "platform/text/Text.h"
 
@@ -125,6 +126,19 @@ TEST(FeedWriter, PrintsFloatsWithTheirDoubleExpansion)
     EXPECT_TRUE(contains(text, R"("eye":[0.10000000149011612,1.0000000200408773e+20,)")) << text;
     EXPECT_TRUE(contains(text, R"("zoom":0.10000000000000001})")) << text;
     EXPECT_EQ(writeAndRead(feed).comment.viewport, feed.comment.viewport) << "the floats come back the same";
+}
+
+TEST(FeedWriter, PrintsAPointWhereTheDesktopWritesAComma)
+{
+    std::string const before = write(sample());
+    Feed const back = writeAndRead(sample());
+    orvtest::CommaLocale const comma;
+    EXPECT_EQ(write(sample()), before);
+    EXPECT_EQ(writeAndRead(sample()), back);
+    Feed feed;
+    feed.comment.viewport.zoom = 2.5;
+    EXPECT_TRUE(contains(write(feed), "\"zoom\":2.5"));
+    EXPECT_EQ(writeAndRead(feed).comment.viewport.zoom, 2.5);
 }
 
 TEST(FeedWriter, PrintsWhatIsNoNumber)
