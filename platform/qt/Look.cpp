@@ -44,7 +44,7 @@ QTabBar::tab { background: transparent; color: @muted; border: none; border-bott
     padding: 5px 12px; }
 QTabBar::tab:hover { color: @text; background: @hover; }
 QTabBar::tab:selected { color: @text; border-bottom-color: @accent; }
-#sheetPages { background: transparent; }
+#sheetPages { background: transparent; outline: 0; }
 #sheetPages::item { padding: 6px 8px; border-radius: 4px; color: @text; }
 #sheetPages::item:hover { background: @hover; }
 #sheetPages::item:selected { background: @accent; color: @onAccent; }

@@ -10,6 +10,8 @@
 
 #include <QtWidgets>
 
+#include <algorithm>
+
 #ifdef __SANITIZE_ADDRESS__
 // The system's font library keeps a block for the life of the process.
 extern "C" const char* __lsan_default_suppressions();
@@ -157,6 +159,18 @@ bool isRibbonEnabled(CWnd& ribbon, unsigned int command)
 
 void processEvents()
 {
+    QCoreApplication::processEvents();
+    // What was shown is drawn once the system has told that it is in view.
+    QDeadlineTimer deadline(1000);
+    const auto isAwaited = [](const QWidget* each) {
+        return each->isVisible() && each->windowHandle() && !each->windowHandle()->isExposed();
+    };
+    const auto isAnyAwaited = [&] {
+        const QWidgetList all = QApplication::topLevelWidgets();
+        return std::any_of(all.begin(), all.end(), isAwaited);
+    };
+    while (isAnyAwaited() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 10);
     QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
