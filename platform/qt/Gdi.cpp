@@ -72,13 +72,17 @@ void applyFont(HWND window, HFONT font)
     window->widget->setFont(font->font);
 }
 
+void renewFont(HWND window)
+{
+    if (isLive(window) && fonts().contains(window->font))
+        window->widget->setFont(window->font->font);
+}
+
 void renewFonts(QWidget* root)
 {
-    if (HWND window = existingHandle(root); window && fonts().contains(window->font))
-        root->setFont(window->font->font);
+    renewFont(existingHandle(root));
     for (QWidget* child : root->findChildren<QWidget*>())
-        if (HWND window = existingHandle(child); window && fonts().contains(window->font))
-            child->setFont(window->font->font);
+        renewFont(existingHandle(child));
 }
 
 HBITMAP makeBitmap(QImage image)

@@ -42,7 +42,9 @@ HFONT sharedFont(const QFont& font);
 // Base units of a font, after the documented rule: mean width of the 52 letters, and height.
 SIZE baseUnits(const QFont& font);
 void applyFont(HWND window, HFONT font);
-// Gives a widget and what stands in it their windows' fonts again, which a change of style or parent takes away.
+// Gives a window its font again, and a widget and what stands in it their windows' fonts again, which a change of style
+// or parent takes away.
+void renewFont(HWND window);
 void renewFonts(QWidget* root);
 
 HBITMAP makeBitmap(QImage image);

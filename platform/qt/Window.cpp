@@ -187,6 +187,11 @@ bool HWND__::translate(QEvent* event)
             mouse(right);
     };
     switch (event->type()) {
+    case QEvent::Polish:
+    case QEvent::StyleChange:
+        // The style sheet has just put the application's font in the place of the window's own.
+        orvplatform::renewFont(this);
+        return false;
     case QEvent::Resize:
         orvplatform::reportSize(this);
         break;

@@ -400,3 +400,27 @@ TEST_F(Dialog, StaysWholeOnTheScreen)
     }
     orvplatform::setMainWindow(nullptr);
 }
+
+TEST_F(Dialog, KeepsItsFontInAnotherWindow)
+{
+    CWnd first, second;
+    for (CWnd* each : {&first, &second})
+        each->CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 600, 400), nullptr, 0);
+    Form form;
+    ASSERT_TRUE(form.Create(10, &first));
+    const QFont wanted = orvplatform::widgetOf(form.m_hWnd)->font();
+    ::SetParent(form.m_hWnd, second.m_hWnd);
+    second.ShowWindow(SW_SHOW);
+    form.ShowWindow(SW_SHOW);
+    processEvents();
+    const QString sheet = qApp->styleSheet();
+    for (int round = 0; round < 2; ++round) {
+        for (const int id : {50, 51, 53, 56, 57, 1000}) {
+            const QWidget* control = orvplatform::widgetOf(form.GetDlgItem(id)->m_hWnd);
+            EXPECT_EQ(control->font().family(), wanted.family()) << id;
+            EXPECT_EQ(control->fontMetrics().height(), QFontMetrics(wanted).height()) << id;
+        }
+        qApp->setStyleSheet(sheet + QStringLiteral(" QPushButton { margin: 0; }")); // as a change of the look does
+    }
+    qApp->setStyleSheet(sheet);
+}
