@@ -12,13 +12,19 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include <turbojpeg.h>
 
 using orvsgutils::MaterialUtils;
 using testing::ElementsAre;
@@ -41,7 +47,9 @@ public:
         if (throws) {
             throw std::runtime_error("no picture");
         }
-        std::fill_n(pixels, std::size_t{3} * width * height, shade);
+        std::size_t const half = std::size_t{3} * width * height / 2;
+        std::fill_n(pixels, half, shade);
+        std::fill_n(pixels + half, half, lowerShade.value_or(shade));
         return true;
     }
 
@@ -50,6 +58,48 @@ public:
     bool wasTransparent = true;
     bool throws = false;
     unsigned char shade = 128;
+    std::optional<unsigned char> lowerShade; ///< of the lower half, where it differs
+};
+
+/// The brightness of a JPEG file's pixels, row by row from the top.
+struct GreyPicture {
+    int width = 0;
+    int height = 0;
+    std::vector<unsigned char> pixels;
+
+    explicit GreyPicture(std::string const& file)
+    {
+        std::unique_ptr<void, int (*)(tjhandle)> const reader(tjInitDecompress(), tjDestroy);
+        auto const* const bytes = reinterpret_cast<unsigned char const*>(file.data());
+        int sampling = 0;
+        int colors = 0;
+        EXPECT_EQ(tjDecompressHeader3(reader.get(), bytes, file.size(), &width, &height, &sampling, &colors), 0);
+        pixels.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+        EXPECT_EQ(tjDecompress2(reader.get(), bytes, file.size(), pixels.data(), width, 0, height, TJPF_GRAY, 0), 0);
+    }
+    int at(int x, int y) const { return pixels.at(static_cast<std::size_t>(y * width + x)); }
+};
+
+/// While it lives, the process is in another time zone.
+class TimeZone
+{
+public:
+    explicit TimeZone(char const* zone)
+    {
+        if (char const* const set = std::getenv("TZ")) {
+            before = set;
+        }
+        setenv("TZ", zone, 1);
+        tzset();
+    }
+    ~TimeZone()
+    {
+        before ? setenv("TZ", before->c_str(), 1) : unsetenv("TZ");
+        tzset();
+    }
+
+private:
+    std::optional<std::string> before;
 };
 
 class ViewCapture : public testing::Test
@@ -124,6 +174,17 @@ TEST_F(ViewCapture, SendsThePictureThatItWrote)
     EXPECT_EQ(decodeThumbnail(feed), bytes);
 }
 
+TEST_F(ViewCapture, PutsTheTopOfTheViewAtThePicturesTop)
+{
+    renderer->shade = 10;
+    renderer->lowerShade = 240;
+    GreyPicture const grey(decodeThumbnail(capture()));
+    ASSERT_EQ(grey.width, 256);
+    ASSERT_EQ(grey.height, 256);
+    EXPECT_LT(grey.at(128, 20), 40);
+    EXPECT_GT(grey.at(128, 235), 210);
+}
+
 TEST_F(ViewCapture, ReplacesThePictureOfTheCommentBefore)
 {
     Feed const first = capture();
@@ -152,6 +213,18 @@ TEST_F(ViewCapture, TakesOneTimeTwice)
     Feed const feed = capture();
     EXPECT_EQ(feed.comment.publishedTime, feed.comment.updatedTime);
     EXPECT_FALSE(feed.comment.publishedTime.empty());
+}
+
+TEST_F(ViewCapture, TakesTheLocalTime)
+{
+    TimeZone const farEast("TEST-14"); // fourteen hours ahead of universal time
+    std::time_t const first = std::time(nullptr);
+    std::wstring const text = capture().comment.publishedTime;
+    std::time_t const last = std::time(nullptr);
+    EXPECT_THAT(text,
+                testing::AnyOf(commentTimeText(*std::localtime(&first)), commentTimeText(*std::localtime(&last))));
+    EXPECT_NE(text, commentTimeText(*std::gmtime(&first)));
+    EXPECT_NE(text, commentTimeText(*std::gmtime(&last)));
 }
 
 TEST_F(ViewCapture, KeepsTextsOfBlanks)
