@@ -1,5 +1,6 @@
 // A deferred exporter for tests: writes a few bytes that say how it was called.
 
+#include "host/orv/IApplication.h"
 #include "host/orvexp/IDelayExporter.h"
 
 #include <filesystem>
@@ -12,12 +13,18 @@ class DelayWriter final : public orvexp::IDelayExporter
 {
 public:
     orvexp::Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const&,
-                        std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager*) override
+                        std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* status) override
     {
         std::ofstream(std::filesystem::path(path), std::ios::binary)
-            << (preferences ? "PRC of the tests" : "PRC of the tests, without preferences");
+            << "copy " << ++copies << (preferences ? " with preferences" : " without preferences");
+        if (status != nullptr) {
+            status->setProgress(42, 1);
+        }
         return orvexp::Status::ok;
     }
+
+private:
+    int copies = 0; // made by this exporter
 };
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "host/orvexp/IDelayExporter.h"
 #include "host/orvui/Hint.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -57,7 +59,7 @@ public:
     void showStatus(wchar_t const* text, int kind) override
     {
         texts.emplace_back(text);
-        lastKind = kind;
+        EXPECT_EQ(kind, 0); // every text of the plug-in is of the one kind
     }
     std::shared_ptr<orv::IViewNotifier> getViewNotifier() override { return notifier; }
     orv::IStatusManager* getStatusManager() override { return &status; }
@@ -67,7 +69,6 @@ public:
     std::vector<std::wstring> texts;
     std::vector<std::wstring> saved;
     int saveStatus = 0;
-    int lastKind = 0;
     std::shared_ptr<FakeNotifier> notifier = std::make_shared<FakeNotifier>();
     FakeStatusManager status;
 };

@@ -21,6 +21,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <unistd.h>
@@ -87,6 +88,17 @@ protected:
     {
         EXPECT_TRUE(orvplatform::registerModuleFile(L"viewer.dll", ORV_PLUGIN_RESOURCES));
         return GetModuleHandleW(L"viewer.dll");
+    }
+
+    /// One in which nothing of the plug-in is found.
+    HINSTANCE emptyModule() const
+    {
+        // The format's opening entry and nothing behind it.
+        std::string const opening = {0, 0, 0, 0, 32, 0, 0, 0, -1, -1, 0, 0, -1, -1, 0, 0};
+        auto const file = dataDirectory / "empty.res";
+        std::ofstream(file, std::ios::binary) << opening + std::string(16, '\0');
+        EXPECT_TRUE(orvplatform::registerModuleFile(L"empty.dll", file.string()));
+        return GetModuleHandleW(L"empty.dll");
     }
 
     std::wstring text(int id) const { return pluginText(id); }

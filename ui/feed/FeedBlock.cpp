@@ -11,7 +11,6 @@
 
 #include <cstdint>
 #include <cstring>
-#include <limits>
 #include <utility>
 
 namespace
@@ -19,6 +18,7 @@ namespace
 
 constexpr int columnWidth = 180; // of text and picture, pixels
 constexpr int lineHeight = 20;
+constexpr std::int64_t tallestWindow = 16'777'215; // pixels; the toolkit makes none that is taller
 
 /// Any format that the image class knows. False where the bytes hold no picture.
 bool loadImage(CImage& image, std::string const& bytes)
@@ -161,8 +161,8 @@ bool FeedBlock::loadThumbnail(int& height)
         return false;
     }
     std::int64_t const scaled = std::int64_t{image.GetHeight()} * columnWidth / image.GetWidth();
-    if (scaled > std::numeric_limits<std::int16_t>::max()) {
-        return false; // taller than a window can be
+    if (scaled > tallestWindow) {
+        return false;
     }
     height = static_cast<int>(scaled);
     if (HBITMAP const previous = thumbnail.SetBitmap(image.Detach())) {

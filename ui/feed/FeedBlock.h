@@ -8,7 +8,6 @@
 #include <afxdialogex.h>
 
 #include <memory>
-#include <set>
 #include <string>
 
 namespace orv
@@ -55,6 +54,7 @@ private:
     int lineCount(std::wstring const& content);
     bool loadThumbnail(int& height);
 
+    void* spare = nullptr; ///< never read; its place is given
     CStatic thumbnail;
     CStatic text;
     CStatic date;

@@ -49,7 +49,7 @@ Output const* outputOf(std::wstring const& kind)
     return nullptr;
 }
 
-/// Makes the record where the host can, since a document may come without one.
+/// May be empty: a document without the record has the host asked to make one, which it needn't do.
 std::shared_ptr<orvsg::SCBom> billOfMaterials(std::shared_ptr<orv::IDocument> const& document)
 {
     auto bom = orv::recordOf<orvsg::SCBom>(document, orvsg::SCBom::BOM);

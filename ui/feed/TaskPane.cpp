@@ -5,15 +5,21 @@
 #include "service/PluginText.h"
 #include "ui/DocumentServices.h"
 #include "ui/ResourceIds.h"
+#include "ui/ResourceModule.h"
 #include "ui/account/FeedLoginDlg.h"
 #include "ui/feed/AddFeed.h"
 #include "ui/feed/FeedBlock.h"
 #include "ui/feed/FeedToolbarDialog.h"
 
+#include <algorithm>
+
 namespace
 {
 
 constexpr std::size_t blockCount = 100;
+// Every block is a handful of windows, so an endless feed would use up the desktop. The tab's title counts the entries
+// that aren't shown as well.
+constexpr std::size_t blockLimit = 1000;
 constexpr int loginHeight = 40; // pixels, at every resolution
 
 bool rebuilds(short code)
@@ -47,8 +53,10 @@ GroupHeights groupHeights()
 template <class Child>
 Child* createChild(CWnd* parent)
 {
-    auto* const child = new Child; // deletes itself with its window
-    return child->Create(Child::templateId(), parent) ? child : nullptr;
+    // Without a window nothing would ever delete the child. None refuses its window while that is being made, so a
+    // creation that failed has left no window either.
+    auto child = std::make_unique<Child>();
+    return child->Create(Child::templateId(), parent) ? child.release() : nullptr; // deletes itself with its window
 }
 
 } // namespace
@@ -152,7 +160,7 @@ void CTaskPane::addGroup(std::wstring const& title, CWnd& child, int height)
 
 void CTaskPane::addBlocks()
 {
-    for (std::size_t i = 0; i < feed.size(); ++i) {
+    for (std::size_t i = 0; i < std::min(feed.size(), blockLimit); ++i) {
         FeedBlock* const block = blockAt(i);
         if (block == nullptr) {
             return;
@@ -176,6 +184,7 @@ FeedBlock* CTaskPane::blockAt(std::size_t index)
     if (index < blocks.size()) {
         return blocks[index];
     }
+    ResourceModule const module; // a feed can come in while the viewer's own module is set
     FeedBlock* const block = createBlock();
     if (block != nullptr) {
         // The others had their document from the hint that opened it.

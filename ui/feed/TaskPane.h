@@ -45,12 +45,13 @@ private:
     FeedBlock* blockAt(std::size_t index);
     FeedBlock* createBlock();
 
-    std::vector<FeedBlock*> blocks; ///< reused by position; grows with the longest feed
+    std::vector<FeedBlock*> blocks; ///< reused by position; grows with the longest feed, up to a limit
     AddFeed* addFeed = nullptr;
     FeedToolbarDialog* toolbar = nullptr;
     FeedLoginDlg* login = nullptr;
     std::vector<Feed> feed;
     std::shared_ptr<orv::IDocument> document;
+    Feed spare; ///< never read; its place is given
     std::shared_ptr<orvweb::UserInfo> userInfo;
     std::shared_ptr<CloudHelper> helper;
 };

@@ -60,6 +60,7 @@ TEST_F(AddFeedTest, ACommentOnAModelThatTheServiceHasIsSent)
     EXPECT_EQ(record["file"]["id"].asString(), jobIdBytes);
     EXPECT_EQ(record["author"]["email"].asString(), "ann@example.com");
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::commentAdded});
+    EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"");
     EXPECT_EQ(application->texts, std::vector<std::wstring>{L"Comment added successfully."});
 }
@@ -85,7 +86,7 @@ TEST_F(AddFeedTest, AJobIdOf35CharactersLeadsToTheUpload)
     EXPECT_EQ(upload.field("filename"), "gearbox.step");
     EXPECT_EQ(upload.field("type"), "prc");
     EXPECT_EQ(upload.request.file, orv::FileUtils::getTempPath() + L"gearbox.prc");
-    EXPECT_EQ(upload.fileContent, "PRC of the tests, without preferences");
+    EXPECT_EQ(upload.fileContent, "copy 1 without preferences");
     EXPECT_EQ(network.last().field("jobid"), jobIdBytes);
     EXPECT_TRUE(std::filesystem::exists(upload.request.file)); // stays behind
     EXPECT_EQ(application->texts, std::vector<std::wstring>{text(109)});
@@ -94,6 +95,36 @@ TEST_F(AddFeedTest, AJobIdOf35CharactersLeadsToTheUpload)
     network.expect("/api/CommentSync/", "ok");
     submit(L"second"); // the service has the model now
     EXPECT_EQ(network.sent().size(), 5U);
+}
+
+TEST_F(AddFeedTest, TheExporterIsMadeOnceAndReportsToTheStatusLine)
+{
+    for (char const* const copy : {"copy 1 without preferences", "copy 2 without preferences"}) {
+        network.expect("/api/isFilePresent/", "");
+        network.expect("/api/UploadInput/", jobIdBytes);
+        network.expect("/api/CommentSync/", "ok");
+        submit(L"hello");
+        EXPECT_EQ(network.sent().at(network.sent().size() - 2).fileContent, copy);
+    }
+    EXPECT_EQ(application->status.percentages, (std::vector<int>{42, 42})); // the exporter's own, no other
+    EXPECT_TRUE(application->status.shown.empty());
+}
+
+TEST_F(AddFeedTest, WithoutAnApplicationTheCommentIsSentWithoutAWord)
+{
+    scene.document->setSchema(orv::SCApplication::key, nullptr);
+    network.expect("/api/isFilePresent/", "");
+    network.expect("/api/UploadInput/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_EQ(network.last().field("jobid"), jobIdBytes);
+    EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"");
+    submit(L""); // nothing to say it with
+    orvplatform::setConnectedForTest(false);
+    submit(L"hello");
+    EXPECT_EQ(network.sent().size(), 3U);
+    EXPECT_TRUE(application->texts.empty());
+    EXPECT_TRUE(application->notifier->codes.empty());
 }
 
 TEST_F(AddFeedTest, TheCommentGoesOutWhateverTheUploadGave)

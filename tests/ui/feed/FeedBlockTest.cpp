@@ -1,7 +1,11 @@
 #include "ui/feed/FeedBlock.h"
 #include "feed/SceneRecords.h"
 #include "ui/UiTest.h"
+#include "ui/Widgets.h"
 #include "ui/feed/Records.h"
+
+#include <map>
+#include <string>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -49,6 +53,8 @@ TEST_F(FeedBlockTest, StartsWithAHiddenDeleteButton)
     auto* const button = dynamic_cast<CMFCButton*>(block->GetDlgItem(deleteButton));
     ASSERT_NE(button, nullptr);
     EXPECT_STREQ(button->GetTooltip().GetString(), L"Delete");
+    EXPECT_FALSE(resourcePicture(278).isNull());
+    EXPECT_EQ(pictureOf(*block, deleteButton), resourcePicture(278));
 }
 
 TEST_F(FeedBlockTest, WithoutAThumbnailOnlyTheTextShows)
@@ -84,8 +90,13 @@ TEST_F(FeedBlockTest, TheNextRecordReplacesThePicture)
 {
     showPicture(360, 180);
     auto* const control = static_cast<CStatic*>(block->GetDlgItem(picture));
-    EXPECT_NE(control->GetBitmap(), nullptr);
+    HBITMAP const first = control->GetBitmap();
+    ASSERT_NE(first, nullptr);
     EXPECT_EQ(showPicture(180, 180), 180 + 55);
+    EXPECT_EQ(placeOf(*block, picture), CRect(15, 15, 195, 195));
+    HBITMAP const second = control->GetBitmap();
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(orvplatform::pixmapOf(second).height(), 180); // set as it came
     EXPECT_EQ(show(comment(L"none")), 55);
     EXPECT_FALSE(isVisible(*block, picture));
 }
@@ -97,15 +108,22 @@ TEST_F(FeedBlockTest, ABrokenThumbnailCountsAsNone)
     EXPECT_EQ(show(feed), 55);
     EXPECT_FALSE(isVisible(*block, picture));
     EXPECT_FALSE(isVisible(*block, date));
-    feed.thumbnail = dataUri(pictureBytes(360, 180).substr(0, 30));
-    show(feed);
-    EXPECT_EQ(placeOf(*block, content).left, 15);
+    EXPECT_EQ(placeOf(*block, content), CRect(15, 20, 195, 60));
+    feed.thumbnail = dataUri(pictureBytes(360, 180).substr(0, 10)); // ends in the middle of its header
+    EXPECT_EQ(show(feed), 55);
+    EXPECT_FALSE(isVisible(*block, picture));
 }
 
-TEST_F(FeedBlockTest, APictureTallerThanAWindowCountsAsNone)
+TEST_F(FeedBlockTest, APictureIsShownHoweverTallItIs)
 {
-    EXPECT_EQ(showPicture(1, 1000), 55);
-    EXPECT_FALSE(isVisible(*block, picture));
+    EXPECT_EQ(showPicture(100, 16000), 28800 + 55);
+    EXPECT_TRUE(isVisible(*block, picture));
+    EXPECT_EQ(placeOf(*block, picture), CRect(15, 15, 195, 28815));
+    EXPECT_EQ(showPicture(1, 1000), 180000 + 55);
+    EXPECT_EQ(placeOf(*block, picture).Height(), 180000);
+    EXPECT_EQ(placeOf(*block, content).top, 180020);
+    EXPECT_EQ(showPicture(1000, 1), 55); // a height of nothing, but a picture
+    EXPECT_TRUE(isVisible(*block, date));
 }
 
 TEST_F(FeedBlockTest, ThePrefixIsSkippedByTheSource)
@@ -120,12 +138,17 @@ TEST_F(FeedBlockTest, ThePrefixIsSkippedByTheSource)
 
 TEST_F(FeedBlockTest, AnEscapedPlusIsUndoneInLowerCaseOnly)
 {
-    // 0xFB 0xEF 0xBE gives "++++" in base64.
-    std::string const bytes = pictureBytes(60, 30) + "\xfb\xef\xbe\xfb\xef\xbe";
+    // 0xFB 0xEF 0xBE gives "++++" in base64, and the header is as long as whole groups: all pixels are plus signs.
+    std::string bytes = "P6  60  30 255\n";
+    for (int pixel = 0; pixel < 60 * 30; ++pixel) {
+        bytes += "\xfb\xef\xbe";
+    }
     std::wstring uri = dataUri(bytes);
+    ASSERT_NE(uri.find(L"++++"), std::wstring::npos);
     Feed feed = comment(L"hello");
     feed.thumbnail = uri;
     int const plain = show(feed);
+    ASSERT_EQ(plain, 90 + 55);
     auto const escape = [&uri](wchar_t const* with) {
         std::wstring escaped;
         for (wchar_t const c : uri) {
@@ -158,6 +181,25 @@ TEST_F(FeedBlockTest, LinesAreMeasuredAsOneLineOfText)
     EXPECT_TRUE(sawTwo);
     EXPECT_EQ(show(comment(L"")), 55);        // an empty text is one line
     EXPECT_EQ(show(comment(L"a\nb\nc")), 55); // line breaks start none
+}
+
+TEST_F(FeedBlockTest, A179PixelsOfTextAreOneLineAnd180AreTwo)
+{
+    CClientDC context(block);
+    context.SelectObject(block->GetFont());
+    std::map<int, std::wstring> textOfWidth;
+    for (std::size_t wide = 0; wide < 30; ++wide) {
+        for (std::size_t narrow = 0; narrow < 60; ++narrow) {
+            std::wstring const text = std::wstring(wide, L'm') + std::wstring(narrow, L'i');
+            SIZE size{};
+            GetTextExtentPoint32W(context.GetSafeHdc(), text.c_str(), static_cast<int>(text.size()), &size);
+            textOfWidth.emplace(size.cx, text);
+        }
+    }
+    for (int const width : {179, 180, 359, 360}) {
+        ASSERT_TRUE(textOfWidth.contains(width)) << width;
+        EXPECT_EQ(show(comment(textOfWidth[width])), 35 + (width / 180 + 1) * 20) << width;
+    }
 }
 
 TEST_F(FeedBlockTest, TheTextStandsAsItCame)
@@ -243,9 +285,11 @@ TEST_F(FeedBlockTest, AClickBringsTheViewBack)
     EXPECT_FALSE(scene.runtime->visibility[4]);
     EXPECT_EQ(scene.renderer->camera->eye, (Vector3{1, 2, 3}));
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::viewRestored});
+    EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     auto const visibility = scene.runtime->visibility;
-    click();
+    click(); // starts from a full reset, so a second click gives the same
     EXPECT_EQ(scene.runtime->visibility, visibility);
+    EXPECT_EQ(scene.renderer->camera->eye, (Vector3{1, 2, 3}));
 }
 
 TEST_F(FeedBlockTest, AClickOnTextAndPictureCounts)
@@ -302,6 +346,7 @@ TEST_F(FeedBlockTest, DeletingAsksTheServiceAndReloads)
     EXPECT_EQ(network.last().field("jobid"), jobIdBytes);
     EXPECT_EQ(network.last().field("username"), "ann@example.com");
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::commentDeleted});
+    EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     EXPECT_TRUE(application->texts.empty());
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "ui/UiTest.h"
+#include "ui/Widgets.h"
 #include "ui/feed/FeedBlock.h"
 #include "ui/feed/FeedPane.h"
+#include "ui/feed/FeedToolbarDialog.h"
 #include "ui/feed/Records.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace orvtest
@@ -42,14 +45,22 @@ protected:
         sendHint(*pane, orv::HintCode::documentOpened, scene.document);
         return *pane;
     }
-    void expectFeed(std::vector<std::string> const& authors)
+    /// The child dialog in a group, counted from the top.
+    CWnd& childOf(std::size_t group) const { return *CWnd::FromHandle(groups().at(group).window); }
+    void expectFeedText(std::string text)
     {
         network.expect("/api/isFilePresent/", jobIdBytes);
-        network.expect("/api/CommentSync/", feedJson(authors));
+        network.expect("/api/CommentSync/", std::move(text));
     }
+    void expectFeed(std::vector<std::string> const& authors) { expectFeedText(feedJson(authors)); }
     void loadFeed(std::vector<std::string> const& authors)
     {
         expectFeed(authors);
+        pane->OnActivateChange(true);
+    }
+    void loadRecords(std::vector<Feed> const& feeds)
+    {
+        expectFeedText(feedJson(feeds));
         pane->OnActivateChange(true);
     }
 
@@ -80,17 +91,7 @@ protected:
     }
     /// The list's place in the pane.
     CRect listPlace() const { return placeOf(*pane, 202); }
-    int visibleBlocks() const
-    {
-        int count = 0;
-        for (auto const& group : groups()) {
-            if (dynamic_cast<FeedBlock*>(CWnd::FromHandle(group.window)) != nullptr &&
-                (GetWindowLongPtrW(group.window, GWL_STYLE) & WS_VISIBLE) != 0) {
-                ++count;
-            }
-        }
-        return count;
-    }
+    int visibleBlocks() const { return shownBelow<FeedBlock>(list()); }
 
     CWnd tab;
     FeedPane* pane = nullptr; // goes with its window

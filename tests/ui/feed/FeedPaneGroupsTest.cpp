@@ -16,6 +16,19 @@ TEST_F(FeedPaneTest, ANullHintIsIgnored)
     EXPECT_TRUE(groups().empty());
 }
 
+TEST_F(FeedPaneTest, NothingShowsBeforeTheFirstHint)
+{
+    frame.ShowWindow(SW_SHOW);
+    openPane();
+    orvplatform::testing::processEvents();
+    EXPECT_EQ(windowsBelow<FeedBlock>(list()).size(), 100U);
+    EXPECT_EQ(shownBelow<CDialog>(list()), 0);
+    for (CMFCButton* const button : windowsBelow<CMFCButton>(list())) {
+        EXPECT_FALSE(button->IsWindowVisible());
+    }
+    EXPECT_TRUE(groups().empty());
+}
+
 TEST_F(FeedPaneTest, SignedOutTheListShowsToolsAndPrompt)
 {
     openPane();
@@ -57,6 +70,49 @@ TEST_F(FeedPaneTest, GroupTitlesAreBlackAlsoUnderThePointer)
         EXPECT_EQ(group->m_hIcon, nullptr);
         EXPECT_FALSE(group->m_lstTasks.at(0).m_bAutoDestroyWindow);
     }
+}
+
+TEST_F(FeedPaneTest, GroupsCannotBeCollapsed)
+{
+    signIn();
+    frame.ShowWindow(SW_SHOW);
+    openPaneWithModel();
+    EXPECT_FALSE(list().CollapseGroup(0, TRUE));
+    CRect const group = list().GetTaskGroup(0)->m_rect;
+    constexpr int captionStrip = 20;
+    orvplatform::testing::clickAt(list(), group.left + 20, group.top + captionStrip + 4); // its title
+    EXPECT_FALSE(list().GetTaskGroup(0)->m_bIsCollapsed);
+    EXPECT_EQ(shownBelow<FeedToolbarDialog>(list()), 1);
+}
+
+TEST_F(FeedPaneTest, AGroupIsAsHighAsItsBlockSays)
+{
+    signIn();
+    openPaneWithModel();
+    Feed withPicture = comment(L"hello");
+    withPicture.thumbnail = dataUri(pictureBytes(360, 180));
+    loadRecords({withPicture, comment(L"hello")});
+    ASSERT_EQ(groups().size(), 4U);
+    EXPECT_EQ(groups()[2].height, 145);
+    EXPECT_EQ(groups()[3].height, 55);
+    CRect place;
+    childOf(2).GetClientRect(&place);
+    EXPECT_EQ(place.Height(), 145);
+}
+
+TEST_F(FeedPaneTest, TheLastCommentThatIsDeletedLeavesAnEmptyFeed)
+{
+    signIn();
+    user->username = L"x@example.com"; // the author of what loadFeed gives
+    openPaneWithModel();
+    loadFeed({"Ann"});
+    network.expect("/api/DeleteComment/", "ok");
+    expectFeed({});
+    EXPECT_TRUE(orvplatform::testing::clickButton(childOf(2), 1037));
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"Add Comment"}));
+    EXPECT_EQ(visibleBlocks(), 0);
+    EXPECT_EQ(tabTitle(), L"Feeds - 0");
+    EXPECT_EQ(application->notifier->documents.at(1), scene.document.get()); // of hint 39
 }
 
 TEST_F(FeedPaneTest, LogoutShowsThePromptAndNoBlock)
@@ -184,6 +240,28 @@ TEST_F(FeedPaneTest, AFeedOfMoreThanAHundredEntriesIsShownWhole)
     EXPECT_EQ(application->notifier->codes.back(), codes::viewRestored);
     loadFeed({"Ann"});
     EXPECT_EQ(visibleBlocks(), 1);
+}
+
+TEST_F(FeedPaneTest, AnEndlessFeedIsShownUpToALimitAndCountedWhole)
+{
+    signIn();
+    openPaneWithModel();
+    loadFeed(std::vector<std::string>(1003, "Ann"));
+    EXPECT_EQ(visibleBlocks(), 1000);
+    EXPECT_EQ(groups().size(), 1002U);
+    EXPECT_EQ(tabTitle(), L"Feeds - 1003");
+}
+
+TEST_F(FeedPaneTest, BlocksAreAddedWhicheverModuleIsSet)
+{
+    signIn();
+    openPaneWithModel();
+    HINSTANCE const other = emptyModule();
+    AfxSetResourceHandle(other);
+    loadFeed(std::vector<std::string>(101, "Ann"));
+    EXPECT_EQ(AfxGetResourceHandle(), other); // set back
+    ASSERT_EQ(visibleBlocks(), 101);
+    EXPECT_EQ(pictureOf(childOf(102), 1037), resourcePicture(278));
 }
 
 TEST_F(FeedPaneTest, BlocksKeepTheirWindowsAcrossReloads)

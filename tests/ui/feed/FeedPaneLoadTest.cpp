@@ -56,7 +56,7 @@ TEST_F(FeedPaneTest, AnEmptyFeedLeavesToolsAndCommentBox)
 {
     signIn();
     openPaneWithModel();
-    loadFeed({});
+    loadFeed(std::vector<std::string>());
     EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"Add Comment"}));
     EXPECT_EQ(tabTitle(), L"Feeds - 0");
 }
@@ -181,6 +181,61 @@ TEST_F(FeedPaneTest, LoadingEndsSilentlyWithoutWhatItNeeds)
     EXPECT_TRUE(network.sent().empty());
     EXPECT_TRUE(application->texts.empty());
     EXPECT_EQ(tabTitle(), L"Feeds");
+}
+
+TEST_F(FeedPaneTest, LoadingEndsSilentlyWithoutAnApplication)
+{
+    signIn();
+    openPaneWithModel();
+    scene.document->setSchema(orv::SCApplication::key, nullptr);
+    orvplatform::setConnectedForTest(false); // not asked either
+    pane->OnActivateChange(true);
+    EXPECT_TRUE(network.sent().empty());
+    EXPECT_TRUE(application->texts.empty());
+    EXPECT_EQ(tabTitle(), L"Feeds");
+}
+
+TEST_F(FeedPaneTest, TheConnectionIsAskedBeforeThePathAndAfterTheRecords)
+{
+    signIn();
+    openPaneWithModel();
+    orvplatform::setConnectedForTest(false);
+    scene.info->setFile(L"");
+    pane->OnActivateChange(true);
+    EXPECT_EQ(application->texts, Titles{text(111)});
+    scene.document->setSchema(orvsg::SCInfo::key, nullptr);
+    pane->OnActivateChange(true);
+    EXPECT_EQ(application->texts.size(), 1U);
+}
+
+TEST_F(FeedPaneTest, TheCountStandsBeforeTheBlocksAreBuilt)
+{
+    signIn();
+    openPaneWithModel();
+    loadFeed({"Ann"});
+    std::wstring titleAtTheHint;
+    int blocksAtTheHint = -1;
+    application->notifier->deliver = [&](orv::IHint* hint) {
+        titleAtTheHint = tabTitle();
+        blocksAtTheHint = visibleBlocks();
+        pane->OnUpdate(hint);
+    };
+    loadFeed({"Ann", "Bob"});
+    EXPECT_EQ(titleAtTheHint, L"Feeds - 2");
+    EXPECT_EQ(blocksAtTheHint, 1);
+    EXPECT_EQ(visibleBlocks(), 2);
+}
+
+TEST_F(FeedPaneTest, EveryRequestCarriesTheUser)
+{
+    signIn();
+    openPaneWithModel();
+    loadFeed({"Ann"});
+    ASSERT_EQ(network.sent().size(), 2U);
+    for (auto const& request : network.sent()) {
+        EXPECT_EQ(request.field("username"), "ann@example.com");
+        EXPECT_EQ(request.header("Authorization"), std::string("Bearer ") + tokenBytes);
+    }
 }
 
 TEST_F(FeedPaneTest, WithoutANotifierTheCountIsWrittenAndNothingIsRebuilt)

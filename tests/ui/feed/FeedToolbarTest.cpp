@@ -1,4 +1,5 @@
 #include "ui/UiTest.h"
+#include "ui/Widgets.h"
 #include "ui/feed/FeedToolbarDialog.h"
 #include "ui/feed/ShareDialog.h"
 
@@ -42,6 +43,15 @@ TEST_F(FeedToolbarTest, BothButtonsStartDisabledWithTheirTips)
     EXPECT_STREQ(dynamic_cast<CMFCButton*>(toolbar->GetDlgItem(push))->GetTooltip().GetString(),
                  L"Push to Orvanta Cloud");
     EXPECT_STREQ(dynamic_cast<CMFCButton*>(toolbar->GetDlgItem(share))->GetTooltip().GetString(), L"Share");
+}
+
+TEST_F(FeedToolbarTest, EachButtonHasItsPicture)
+{
+    ASSERT_FALSE(resourcePicture(275).isNull());
+    ASSERT_FALSE(resourcePicture(276).isNull());
+    EXPECT_NE(resourcePicture(275), resourcePicture(276));
+    EXPECT_EQ(pictureOf(*toolbar, push), resourcePicture(275));
+    EXPECT_EQ(pictureOf(*toolbar, share), resourcePicture(276));
 }
 
 TEST_F(FeedToolbarTest, AnOpenedModelEnablesThemForASignedInUser)

@@ -1,7 +1,11 @@
 #pragma once
 
 #include "feed/Feed.h"
+#include "feed/FeedWriter.h"
 #include "feed/Thumbnail.h"
+#include "platform/text/Text.h"
+
+#include <json/json.h>
 
 #include <string>
 #include <vector>
@@ -37,18 +41,24 @@ inline Feed comment(std::wstring content, std::wstring author = L"Ann", std::wst
     return feed;
 }
 
-/// The answer to a feed request: one entry an author, newest first.
+/// The answer to a feed request with these records.
+inline std::string feedJson(std::vector<Feed> const& feeds)
+{
+    Json::Value root(Json::arrayValue);
+    for (Feed const& feed : feeds) {
+        root[root.size()]["Content"] = orvtext::toUtf8(FeedWriter().write(feed));
+    }
+    return Json::writeString(Json::StreamWriterBuilder(), root);
+}
+
+/// One entry an author, newest first.
 inline std::string feedJson(std::vector<std::string> const& authors)
 {
-    std::string text = "[";
+    std::vector<Feed> feeds;
     for (auto const& author : authors) {
-        if (text.size() > 1) {
-            text += ",";
-        }
-        text += R"({"Content":"{\"author\":{\"name\":\")" + author +
-                R"(\",\"email\":\"x@example.com\"},\"commentcontent\":{\"content\":\"hello\"}}"})";
+        feeds.push_back(comment(L"hello", orvtext::fromUtf8(author), L"x@example.com"));
     }
-    return text + "]";
+    return feedJson(feeds);
 }
 
 } // namespace orvtest
