@@ -41,7 +41,8 @@ void sendSupportRequest(std::shared_ptr<orv::IDocument> const& document)
     if (!application) {
         return;
     }
-    std::wstring const body = application->supportText ? application->supportText->text() : describeSystem();
+    wchar_t const* const own = application->supportText ? application->supportText->text() : nullptr;
+    std::wstring const body = own != nullptr ? own : describeSystem();
     orv::Mail mail;
     mail.send(GetActiveWindow(), buildSettings::supportAddress, subject, body.c_str(), nullptr);
 }

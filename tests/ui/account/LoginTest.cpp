@@ -9,6 +9,7 @@
 #include <fstream>
 #include <functional>
 #include <iterator>
+#include <stdexcept>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -66,6 +67,13 @@ protected:
         return saved;
     }
 
+    static std::string sessionText()
+    {
+        std::ifstream file(std::filesystem::path(SessionFile().path()));
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    static std::string twoLines() { return std::string("ann@example.com\n") + tokenBytes + "\n"; }
+
     std::vector<std::wstring> opened;
 };
 
@@ -108,6 +116,37 @@ TEST_F(LoginTest, ALoginIsRememberedAndTold)
     EXPECT_TRUE(exporter->paths.empty()); // the service has the model
 }
 
+TEST_F(LoginTest, TheDialogIsClosedBeforeTheAccountIsAsked)
+{
+    network.expect("/api/Login/", tokenBytes);
+    network.expect("/api/InstalledDevice/", "ok");
+    network.expectHandled("/api/AccountInfo/", [this](SentRequest const&) -> orvweb::HttpResponse {
+        EXPECT_EQ(application->texts, std::vector<std::wstring>{text(130)});
+        EXPECT_EQ(sessionText(), twoLines());
+        throw std::runtime_error("the wire broke"); // shows what had happened by then
+    });
+    std::vector<std::string> broken;
+    orvplatform::setExceptionHandler([&broken](std::string const& why) { broken.push_back(why); });
+    EXPECT_EQ(run(signInAsAnn), IDCANCEL);
+    orvplatform::setExceptionHandler({});
+    EXPECT_EQ(broken, std::vector<std::string>{"the wire broke"});
+    EXPECT_EQ(user->userid, token);
+    EXPECT_TRUE(application->notifier->codes.empty());
+}
+
+TEST_F(LoginTest, TheSessionIsCompleteBeforeTheModelIsAskedFor)
+{
+    expectLogin(R"({"name":"Ann"})");
+    network.expectHandled("/api/isFilePresent/", [this](SentRequest const&) {
+        EXPECT_EQ(sessionText(), twoLines() + "Ann\n");
+        EXPECT_EQ(user->name, L"Ann");
+        EXPECT_TRUE(application->notifier->codes.empty());
+        return orvweb::HttpResponse{orv::ErrorCode::none, 200, jobIdBytes};
+    });
+    run(signInAsAnn);
+    EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::signedIn});
+}
+
 TEST_F(LoginTest, AModelThatTheServiceDoesNotHaveIsPushed)
 {
     expectLogin(R"({"name":"Ann"})");
@@ -148,15 +187,13 @@ TEST_F(LoginTest, WithoutANotifierTheUserIsSignedIn)
 TEST_F(LoginTest, AnAccountAnswerThatIsNoJsonLeavesTwoLines)
 {
     for (char const* const answer : {"", "Internal Server Error {"}) {
-        user->name.clear();
+        user->name = L"Before";
         scene.info->setFile(L"");
         expectLogin(answer);
         run(signInAsAnn);
         EXPECT_EQ(user->userid, token);
-        EXPECT_EQ(user->name, L"");
-        std::ifstream file(std::filesystem::path(SessionFile().path()));
-        std::string const content((std::istreambuf_iterator<char>(file)), {});
-        EXPECT_EQ(content, std::string("ann@example.com\n") + tokenBytes + "\n");
+        EXPECT_EQ(user->name, L"Before"); // stays
+        EXPECT_EQ(sessionText(), twoLines());
     }
 }
 

@@ -1,15 +1,41 @@
 #include "ui/account/SupportRequest.h"
+#include "host/orvSysInfo/GeneralUtils.h"
+#include "platform/text/Text.h"
 #include "ui/UiTest.h"
 #include "ui/account/BuildSettings.h"
 #include "ui/account/CloudLoginDlg.h"
 
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <string>
+#include <vector>
 
 using namespace orvtest;
 
 namespace
 {
+
+class OwnSupportText final : public orv::ISupportText
+{
+public:
+    explicit OwnSupportText(wchar_t const* text) : own(text) {}
+    wchar_t const* text() override { return own; }
+
+private:
+    wchar_t const* own;
+};
+
+/// What the mail says of the system where the application has no text of its own.
+std::string systemDescription()
+{
+    using orvSysInfo::GeneralUtils;
+    std::wstring name;
+    std::wstring version;
+    std::wstring const system = GeneralUtils::getOSName(name, version) ? name : GeneralUtils::getSystemInfo();
+    return orvtext::toUtf8(GeneralUtils::compileSystemInfo(
+        GeneralUtils::getApplicationInfo(), system, GeneralUtils::getHostID(), GeneralUtils::getSignature(), L""));
+}
 
 /// A desktop with a mail client of its own: what it is given lands in a file.
 class SupportRequestTest : public UiTest
@@ -30,45 +56,63 @@ protected:
     void installMailClient()
     {
         installProgram("xdg-mime", "echo client.desktop");
+        std::string const mail = (mailDirectory() / "$$").string();
         installProgram("xdg-email", "if [ \"$1\" = --version ]; then echo 1; exit 0; fi\n"
-                                    "printf '%s\\n' \"$@\" > '" +
-                                        mailFile().string() + ".part' && mv '" + mailFile().string() + ".part' '" +
-                                        mailFile().string() + "'");
+                                    "printf '%s\\n' \"$@\" > \"" +
+                                        mail + ".part\" && mv \"" + mail + ".part\" \"" + mail + ".mail\"");
+        std::filesystem::create_directories(mailDirectory());
         setenv("PATH", (programs.string() + ":" + pathBefore).c_str(), 1);
     }
-    void removeMailClient() { setenv("PATH", programs.c_str(), 1); }
+    /// The tools stay, but no program has announced itself for mail.
+    void removeMailClient() { installProgram("xdg-mime", "true"); }
 
-    std::filesystem::path mailFile() const { return dataDirectory / "mail"; }
+    std::filesystem::path mailDirectory() const { return dataDirectory / "mails"; }
+    /// The mails that have been written, what the client was started with, a line an argument.
+    std::vector<std::string> mails() const
+    {
+        std::vector<std::string> written;
+        for (auto const& entry : std::filesystem::directory_iterator(mailDirectory())) {
+            if (entry.path().extension() == ".mail") {
+                std::ifstream file(entry.path());
+                written.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+            }
+        }
+        return written;
+    }
     std::string mail() const
     {
-        EXPECT_TRUE(orvplatform::testing::waitFor([this] { return std::filesystem::exists(mailFile()); }));
-        std::ifstream file(mailFile());
-        return {std::istreambuf_iterator<char>(file), {}};
+        EXPECT_TRUE(orvplatform::testing::waitFor([this] { return !mails().empty(); }));
+        return mails().empty() ? std::string() : mails().front();
+    }
+    /// Sends one more request, which does arrive, and sees that it is the only one.
+    void expectNoMailBefore() const
+    {
+        TestScene another;
+        another.application->supportText = std::make_shared<OwnSupportText>(L"the only one");
+        sendSupportRequest(another.document);
+        EXPECT_EQ(mail(), mailWith("the only one"));
+        EXPECT_FALSE(orvplatform::testing::waitFor([this] { return mails().size() > 1; }, 200));
+    }
+    static std::string mailWith(std::string const& body)
+    {
+        return "--utf8\n--subject\nOrvanta Support Request\n--body\n" + body + "\n" +
+               orvtext::toUtf8(buildSettings::supportAddress) + "\n";
     }
 
     std::string pathBefore;
     std::filesystem::path programs;
 };
 
-class OwnSupportText final : public orv::ISupportText
-{
-public:
-    wchar_t const* text() override { return L"The application's own words"; }
-};
-
-std::string narrow(std::wstring const& text)
-{
-    return {text.begin(), text.end()};
-}
-
 } // namespace
 
 TEST_F(SupportRequestTest, WithoutAMailClientNothingHappens)
 {
+    installMailClient();
     removeMailClient();
     sendSupportRequest(scene.document);
     EXPECT_TRUE(application->texts.empty());
-    EXPECT_FALSE(std::filesystem::exists(mailFile()));
+    installMailClient();
+    expectNoMailBefore();
 }
 
 TEST_F(SupportRequestTest, WithoutAnApplicationNothingHappens)
@@ -77,17 +121,20 @@ TEST_F(SupportRequestTest, WithoutAnApplicationNothingHappens)
     scene.document->setSchema(orv::SCApplication::key, nullptr);
     sendSupportRequest(scene.document);
     sendSupportRequest(nullptr);
-    EXPECT_FALSE(std::filesystem::exists(mailFile()));
+    expectNoMailBefore();
 }
 
 TEST_F(SupportRequestTest, TheMailDescribesTheSystem)
 {
     installMailClient();
     sendSupportRequest(scene.document);
-    std::string const sent = mail();
-    EXPECT_NE(sent.find("Orvanta Support Request"), std::string::npos);
-    EXPECT_NE(sent.find(narrow(buildSettings::supportAddress)), std::string::npos);
-    EXPECT_NE(sent.find("Orvanta"), std::string::npos);
+    EXPECT_EQ(mail(), mailWith(systemDescription()));
+    std::wstring name;
+    std::wstring version;
+    if (orvSysInfo::GeneralUtils::getOSName(name, version)) {
+        EXPECT_NE(mail().find(orvtext::toUtf8(name)), std::string::npos);
+        EXPECT_EQ(mail().find(orvtext::toUtf8(orvSysInfo::GeneralUtils::getSystemInfo())), std::string::npos);
+    }
 }
 
 TEST_F(SupportRequestTest, TheLinkOfTheLoginDialogStartsTheRequest)
@@ -101,13 +148,21 @@ TEST_F(SupportRequestTest, TheLinkOfTheLoginDialogStartsTheRequest)
     });
     CloudLoginDlg dialog(scene.document, user, helper);
     dialog.DoModal();
-    EXPECT_NE(mail().find("Orvanta Support Request"), std::string::npos);
+    EXPECT_EQ(mail(), mailWith(systemDescription()));
 }
 
 TEST_F(SupportRequestTest, TheApplicationsOwnTextTakesItsPlace)
 {
     installMailClient();
-    scene.application->supportText = std::make_shared<OwnSupportText>();
+    scene.application->supportText = std::make_shared<OwnSupportText>(L"The application's own words");
     sendSupportRequest(scene.document);
-    EXPECT_NE(mail().find("The application's own words"), std::string::npos);
+    EXPECT_EQ(mail(), mailWith("The application's own words"));
+}
+
+TEST_F(SupportRequestTest, AnApplicationThatGivesNoTextAfterAllHasNone)
+{
+    installMailClient();
+    scene.application->supportText = std::make_shared<OwnSupportText>(nullptr);
+    sendSupportRequest(scene.document);
+    EXPECT_EQ(mail(), mailWith(systemDescription()));
 }
