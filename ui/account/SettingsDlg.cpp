@@ -76,7 +76,7 @@ void SettingsDlg::signIn()
         CloudLoginDlg dialog(document, userInfo, helper);
         dialog.DoModal();
     }
-    CPropertyPage::OnOK();
+    OnOK();
 }
 
 void SettingsDlg::signOut()

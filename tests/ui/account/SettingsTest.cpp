@@ -5,6 +5,8 @@
 #include <afxcontrolbars.h>
 
 #include <functional>
+#include <string>
+#include <vector>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -16,13 +18,34 @@ namespace
 constexpr int state = 1029;
 constexpr int button = 1022;
 
+/// Counts what the sheet's machinery asks of the page.
+class WatchedPage final : public SettingsDlg
+{
+public:
+    using SettingsDlg::SettingsDlg;
+    std::vector<std::wstring> captions; ///< of the button, at each exchange with the controls
+    int accepted = 0;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        SettingsDlg::DoDataExchange(exchange);
+        captions.push_back(textOf(*this, ::button));
+    }
+    void OnOK() override
+    {
+        ++accepted;
+        SettingsDlg::OnOK();
+    }
+};
+
 class SettingsTest : public UiTest
 {
 protected:
     /// Opens the options with the page, as the viewer does.
-    void run(std::function<void(SettingsDlg&)> const& use)
+    void run(std::function<void(WatchedPage&)> const& use)
     {
-        SettingsDlg page(scene.document, nullptr, user, std::make_shared<CloudSettings>(), helper);
+        WatchedPage page(scene.document, nullptr, user, std::make_shared<CloudSettings>(), helper);
         CMFCPropertySheet sheet(L"Options");
         sheet.AddPage(&page);
         modals.expectModal<CMFCPropertySheet>([&](CMFCPropertySheet&) -> INT_PTR {
@@ -31,7 +54,7 @@ protected:
         });
         sheet.DoModal();
     }
-    static void press(SettingsDlg& page) { EXPECT_TRUE(clickButton(page, button)); }
+    static void press(CWnd& page) { EXPECT_TRUE(clickButton(page, button)); }
 };
 
 } // namespace
@@ -55,12 +78,55 @@ TEST_F(SettingsTest, ASessionShowsItsUserAndTheLogout)
     });
 }
 
+TEST_F(SettingsTest, TheControlsAreFilledASecondTimeWithTheTextsInPlace)
+{
+    configure(L"fr"); // so that the template's own caption is another than the page's
+    signIn();
+    run([this](WatchedPage& page) {
+        ASSERT_EQ(page.captions.size(), 2U);
+        EXPECT_EQ(page.captions[1], text(107));
+    });
+    SessionFile().remove();
+    run([this](WatchedPage& page) {
+        ASSERT_EQ(page.captions.size(), 2U);
+        EXPECT_NE(page.captions[0], text(106));
+        EXPECT_EQ(page.captions[1], text(106));
+    });
+}
+
+TEST_F(SettingsTest, ThePageIsAcceptedAfterTheLoginDialogAlone)
+{
+    run([this](WatchedPage& page) {
+        modals.expectModal<CloudLoginDlg>([&page](CloudLoginDlg&) -> INT_PTR {
+            EXPECT_EQ(page.accepted, 0);
+            return IDCANCEL;
+        });
+        press(page);
+        EXPECT_EQ(page.accepted, 1);
+    });
+    signIn();
+    network.expect("/api/Logout/", "ok");
+    run([](WatchedPage& page) {
+        press(page);
+        EXPECT_EQ(page.accepted, 0);
+    });
+}
+
 TEST_F(SettingsTest, AnEmptySessionFileCountsAsSignedIn)
 {
     SessionFile().createEmpty();
     run([this](SettingsDlg& page) {
         EXPECT_EQ(textOf(page, state), text(120));
         EXPECT_EQ(textOf(page, button), L"Logout");
+    });
+}
+
+TEST_F(SettingsTest, ADirectoryInTheSessionFilesPlaceIsNoSession)
+{
+    std::filesystem::create_directories(SessionFile().path());
+    run([this](SettingsDlg& page) {
+        EXPECT_EQ(textOf(page, state), text(121));
+        EXPECT_EQ(textOf(page, button), L"Login");
     });
 }
 
@@ -78,6 +144,7 @@ TEST_F(SettingsTest, ALogoutSignsOutAndTellsEverybody)
     EXPECT_EQ(user->name, L"Ann"); // stays
     EXPECT_FALSE(SessionFile().canOpen());
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::signedOut});
+    EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     EXPECT_TRUE(application->texts.empty());
 }
 
