@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <gmock/gmock.h>
+#include <limits>
 #include <thread>
 
 using namespace orvcloud;
@@ -67,16 +69,17 @@ TEST_F(Accounts, AnUnknownUserTakesAsLongAsAWrongPassword)
     config.hashCost = {3, 32U << 20}; // some 50 ms, where all the rest takes about one
     setPassword(config, "ann@example.org", "ann's password");
     start();
+    // The processor's time, which a busy machine doesn't stretch as it does the clock's.
     const auto timeOf = [&](const std::string& email) {
-        auto least = std::chrono::steady_clock::duration::max();
+        auto least = std::numeric_limits<std::clock_t>::max();
         for (int i = 0; i < 3; ++i) {
-            const auto began = std::chrono::steady_clock::now();
+            const std::clock_t began = std::clock();
             EXPECT_EQ(login(email, "wrong").status, 401);
-            least = std::min(least, std::chrono::steady_clock::now() - began);
+            least = std::min(least, std::clock() - began);
         }
         return least;
     };
-    EXPECT_GT(timeOf("nobody@example.org") * 3, timeOf("ann@example.org"));
+    EXPECT_GT(timeOf("nobody@example.org") * 8, timeOf("ann@example.org")) << "without a hash it would be a fiftieth";
 }
 
 TEST_F(Accounts, GuessingIsSlowedDown)
