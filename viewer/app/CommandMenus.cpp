@@ -35,6 +35,14 @@ unsigned long packed(QColor const& colour)
            static_cast<unsigned long>(colour.blue()) << 16;
 }
 
+/// A menu that goes when something in it was chosen, by whatever hand.
+QMenu* makeMenu(QWidget* parent)
+{
+    auto* menu = new QMenu(parent);
+    QObject::connect(menu, &QMenu::triggered, menu, &QMenu::hide);
+    return menu;
+}
+
 QIcon swatch(QColor const& colour)
 {
     QPixmap picture(16, 16);
@@ -51,7 +59,7 @@ QIcon swatch(QColor const& colour)
 
 QMenu* makeColourMenu(QWidget* parent, std::function<void(unsigned long)> choose, std::function<void()> clear)
 {
-    auto* menu = new QMenu(parent);
+    auto* menu = makeMenu(parent);
     for (auto const& entry : palette) {
         QColor const colour(entry.value);
         menu->addAction(swatch(colour), QObject::tr(entry.name), [choose, colour] { choose(packed(colour)); });
@@ -71,7 +79,7 @@ QMenu* makeColourMenu(QWidget* parent, std::function<void(unsigned long)> choose
 
 QMenu* makeTransparencyMenu(QWidget* parent, std::function<void(float)> choose)
 {
-    auto* menu = new QMenu(parent);
+    auto* menu = makeMenu(parent);
     menu->addAction(QObject::tr("&Opaque"), [choose] { choose(0.0F); });
     for (int const percent : {25, 50, 75, 90}) {
         menu->addAction(QObject::tr("%1 %").arg(percent),
@@ -82,7 +90,7 @@ QMenu* makeTransparencyMenu(QWidget* parent, std::function<void(float)> choose)
 
 QMenu* makeRecentMenu(QWidget* parent, RecentFiles const& files, std::function<void(std::wstring const&)> open)
 {
-    auto* menu = new QMenu(parent);
+    auto* menu = makeMenu(parent);
     menu->setToolTipsVisible(true);
     menu->setStyleSheet("QMenu { icon-size: 48px; }");
     QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, &files, open] {

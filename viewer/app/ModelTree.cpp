@@ -176,11 +176,7 @@ ModelTree::ModelTree(QWidget* parent)
     tree->setFrameShape(QFrame::NoFrame);
     tree->setAccessibleName(tr("Model tree"));
     setFocusProxy(tree);
-    auto const& theme = orvplatform::theme();
-    QPalette soft = tree->palette();
-    soft.setColor(QPalette::Highlight, blend(theme.accent, theme.field, 0.22));
-    soft.setColor(QPalette::HighlightedText, theme.text);
-    tree->setPalette(soft);
+    softenSelection();
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 4, 8);
@@ -200,6 +196,23 @@ ModelTree::ModelTree(QWidget* parent)
         emit menuRequested(tree->viewport()->mapToGlobal(at),
                            NodeItems::nodeOf(filter->mapToSource(tree->indexAt(at))));
     });
+}
+
+void ModelTree::softenSelection()
+{
+    auto const& theme = orvplatform::theme();
+    QPalette soft = palette();
+    soft.setColor(QPalette::Highlight, blend(theme.accent, theme.field, 0.22));
+    soft.setColor(QPalette::HighlightedText, theme.text);
+    tree->setPalette(soft);
+}
+
+void ModelTree::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        softenSelection();
+    }
+    QWidget::changeEvent(event);
 }
 
 void ModelTree::setDocument(std::shared_ptr<orv::IDocument> document)

@@ -63,7 +63,11 @@ signals:
     void opened(int node);
     void menuRequested(QPoint const& globalPosition, int node);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void softenSelection(); ///< the accent only tints selected rows, so that their pictures stay readable
     void reportSelection();
 
     NodeItems* items;

@@ -155,6 +155,9 @@ bool ModelView::event(QEvent* event)
     if (event->type() == QEvent::WinIdChange && isAttached) {
         detach();
         attach();
+    } else if (event->type() == QEvent::PaletteChange && isAttached) {
+        display->setDark(orvplatform::theme().dark);
+        update();
     }
     return QWidget::event(event);
 }

@@ -1,7 +1,5 @@
 #include "viewer/app/StartPage.h"
 
-#include "platform/qt/Look.h"
-
 #include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
@@ -19,15 +17,13 @@ constexpr int contentWidth = 720;
 constexpr QSize previewSize(112, 112);
 constexpr QSize tileSize(136, 152);
 
-QLabel* makeLabel(QString const& text, double scale, QColor const& colour)
+QLabel* makeLabel(QString const& text, double scale, QPalette::ColorRole colour)
 {
     auto* label = new QLabel(text);
     QFont font = label->font();
     font.setPointSizeF(font.pointSizeF() * scale);
     label->setFont(font);
-    QPalette palette = label->palette();
-    palette.setColor(QPalette::WindowText, colour);
-    label->setPalette(palette);
+    label->setForegroundRole(colour);
     return label;
 }
 
@@ -35,22 +31,21 @@ QLabel* makeLabel(QString const& text, double scale, QColor const& colour)
 
 StartPage::StartPage(QWidget* parent) : QWidget(parent), list(new QListWidget), heading(nullptr)
 {
-    auto const& theme = orvplatform::theme();
     auto* content = new QWidget(this);
     content->setMaximumWidth(contentWidth);
     auto* column = new QVBoxLayout(content);
     column->setSpacing(12);
     column->addStretch(1);
-    column->addWidget(makeLabel(tr("Open a model"), 1.8, theme.text));
-    column->addWidget(
-        makeLabel(tr("STEP, IGES, BREP, STL, OBJ or glTF. Drop a file here, or choose one."), 1.0, theme.mutedText));
+    column->addWidget(makeLabel(tr("Open a model"), 1.8, QPalette::WindowText));
+    column->addWidget(makeLabel(tr("STEP, IGES, BREP, STL, OBJ or glTF. Drop a file here, or choose one."), 1.0,
+                                QPalette::PlaceholderText));
     auto* open = new QPushButton(tr("&Open..."));
     open->setDefault(true);
     open->setMinimumHeight(32);
     open->setMinimumWidth(112);
     column->addWidget(open, 0, Qt::AlignLeft);
     column->addSpacing(24);
-    heading = makeLabel(tr("Recent"), 1.2, theme.text);
+    heading = makeLabel(tr("Recent"), 1.2, QPalette::WindowText);
     column->addWidget(heading);
     list->setViewMode(QListView::IconMode);
     list->setIconSize(previewSize);
