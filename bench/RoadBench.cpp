@@ -59,8 +59,7 @@ bool walkTheRoad(QString const& model)
     orvtour::Driver driver(options(data, service.url()));
     bool const walked = driver.showWindow() && driver.openModel(model.toStdWString()) &&
                         driver.signIn("ann@example.com", "planet carrier 42") && orvtour::arrangeReviewView(driver) &&
-                        driver.typeComment("A remark") && driver.submitComment();
-    orvtour::resetView(driver);
+                        driver.typeComment("A remark") && driver.submitComment() && orvtour::resetView(driver);
     if (!walked || !driver.clickBlock(0) || driver.viewPicture().isNull()) {
         return false;
     }

@@ -2,16 +2,12 @@
 
 #include "tour/Driver.h"
 #include "tour/SceneState.h"
-#include "viewer/commands/PartCommands.h"
-#include "viewer/commands/ViewCommands.h"
+#include "tour/ViewerHands.h"
+#include "viewer/app/ViewerSession.h"
+#include "viewer/commands/CommandId.h"
 
 namespace orvtour
 {
-
-namespace
-{
-constexpr unsigned long signalOrange = 0x1A7FF2; // packed: red in the low byte
-} // namespace
 
 bool arrangeReviewView(Driver& driver)
 {
@@ -19,22 +15,23 @@ bool arrangeReviewView(Driver& driver)
     if (parts.size() < 6) {
         return false;
     }
-    auto& context = driver.context();
+    ViewerHands hands(driver.session().window());
     std::size_t const last = parts.size() - 1;
-    orvviewer::hideNodes(context, {parts[0], parts[last / 2]});
-    orvviewer::colourNodes(context, {parts[1]}, signalOrange);
-    orvviewer::makeTransparent(context, {parts[2]}, 0.5F);
-    orvviewer::moveNodes(context, {parts[last]}, 12.5, -7.25, 30.1);
-    orvviewer::lookAlong(context, 0.83, -0.41, 0.37);
-    orvviewer::zoomView(context, 0.8);
-    return true;
+    bool const hidden = hands.select({parts[0], parts[last / 2]}) && hands.press(orvviewer::hideParts);
+    bool const coloured = hidden && hands.select({parts[1]}) && hands.choose(orvviewer::colourParts, "Orange");
+    bool const clear = coloured && hands.select({parts[2]}) && hands.choose(orvviewer::transparentParts, "50 %");
+    bool const moved = clear && hands.select({parts[last]}) && hands.press(orvviewer::moveParts) &&
+                       hands.setOffsets(12.5, -7.25, 30.1);
+    // The selection lights up; it goes before the picture is taken.
+    return moved && hands.dragView({-90, 40}) && hands.turnWheel(2) &&
+           driver.session().runCommand(orvviewer::selectNoParts);
 }
 
-void resetView(Driver& driver)
+bool resetView(Driver& driver)
 {
-    orvviewer::resetNodes(driver.context());
-    orvviewer::lookFromSide(driver.context(), orvviewer::StandardView::isometric);
-    orvviewer::fitView(driver.context());
+    ViewerHands hands(driver.session().window());
+    return hands.press(orvviewer::resetParts) && hands.press(orvviewer::viewIsometric) &&
+           hands.press(orvviewer::fitAll);
 }
 
 } // namespace orvtour

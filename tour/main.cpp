@@ -28,7 +28,7 @@ public:
         if (!service.addUser(email, "Dana Demo", password) || !service.start()) {
             return fail(service.errorText());
         }
-        return walk(service.url(), "en") && glanceIn(service.url(), "de");
+        return walk(service.url(), "en") && glanceIn(service.url(), "de") && !failed;
     }
 
 private:
@@ -61,7 +61,7 @@ private:
             return fail("Signing in failed: " + driver.status());
         }
         if (!orvtour::arrangeReviewView(driver)) {
-            return fail("The model has too few parts for the tour.");
+            return fail("The view for the remark could not be arranged: " + driver.status());
         }
         picture(running, "view-arranged");
         if (!driver.typeComment(
@@ -69,7 +69,9 @@ private:
             !driver.submitComment()) {
             return fail("Submitting the comment failed: " + driver.status());
         }
-        orvtour::resetView(driver);
+        if (!orvtour::resetView(driver)) {
+            return fail("The view could not be reset: " + driver.status());
+        }
         picture(running, "view-reset");
         if (!driver.clickBlock(0)) {
             return fail("The comment's block could not be clicked.");
@@ -99,13 +101,17 @@ private:
             return;
         }
         QString const file = QString("%1/%2-%3.png").arg(pictures).arg(++count, 2, 10, QChar('0')).arg(name);
-        driver->screenPicture().save(file);
+        if (!driver->screenPicture().save(file)) {
+            fail("The picture " + file + " could not be written.");
+            return;
+        }
         QTextStream(stdout) << "  " << file << Qt::endl;
     }
 
     bool fail(QString const& sentence)
     {
         QTextStream(stderr) << sentence << Qt::endl;
+        failed = true;
         return false;
     }
 
@@ -115,6 +121,7 @@ private:
     QString modelPath;
     QTemporaryDir data;
     int count = 0;
+    bool failed = false; ///< also where the walk could go on, as after an unexpected dialog
 };
 
 } // namespace

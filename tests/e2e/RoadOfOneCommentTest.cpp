@@ -80,7 +80,7 @@ TEST_P(RoadOfOneComment, EndsInTheViewWhereItBegan)
     EXPECT_FALSE(blocks[1].hasDelete) << "The automatic entries are the service's.";
 
     // The view goes, and the click brings it back.
-    orvtour::resetView(*driver);
+    ASSERT_TRUE(orvtour::resetView(*driver));
     orvtour::SceneState const reset = orvtour::readScene(driver->document());
     EXPECT_EQ(orvtour::difference(reset, captured), "visibility, colours, transparency, placements, camera");
     EXPECT_GT(orvtour::pictureDifference(driver->viewPicture(), capturedPicture), 0.02);
