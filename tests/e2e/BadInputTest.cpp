@@ -168,6 +168,9 @@ TEST_F(BadInput, PluginFilesThatAreNoneAreReportedAndTheViewerWorks)
     EXPECT_FALSE(driver->session().plugins().load(data.filePath("absent.so").toStdWString()));
     EXPECT_TRUE(driver->status().contains("absent")) << driver->status();
     EXPECT_TRUE(driver->openModel(sampleModel())) << driver->status();
+    for (char const* part : {"is open.", "cloudplugin", "absent"}) {
+        EXPECT_TRUE(driver->status().contains(part)) << "Opening a model must not hide the news: " << driver->status();
+    }
 }
 
 } // namespace

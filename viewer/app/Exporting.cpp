@@ -103,7 +103,8 @@ ExportResult exportDocument(std::shared_ptr<orv::IDocument> const& document, std
             return outcome(exporter->save(path.c_str(), document, nullptr, status), name);
         }
         return outcome(orvexp::Status::noLibrary, name);
-    } catch (std::exception const&) {
+    } catch (...) {
+        // An exporter may throw what is no standard exception; whatever it is, nothing was written.
         return outcome(orvexp::Status::cannotWrite, name);
     }
 }

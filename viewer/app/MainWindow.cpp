@@ -156,7 +156,10 @@ void MainWindow::closeEvent(QCloseEvent* event)
 bool MainWindow::eventFilter(QObject* watched, QEvent* event)
 {
     if (stopWork && isInput(event->type())) {
-        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        // The override comes first and would be lost to a command on the same key, such as "Select nothing".
+        bool const isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+        if (isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+            event->accept();
             stopWork();
         }
         return true;

@@ -64,6 +64,7 @@ struct ViewerSession::State final : CommandContext {
     std::shared_ptr<orv::IDocument> openDocument;
     std::set<int> selectedNodes;
     bool isOpening = false;
+    std::wstring pluginProblems; ///< sentences, each after a blank; empty once they were said with a model
     ViewerPreferences preferences;
     RecentFiles recent;
     std::shared_ptr<Barrier> barrier;

@@ -62,9 +62,12 @@ ViewerSession::State::State(orvhost::Settings settings)
     addCommands();
     connectWindow();
     notifier->add(this, [this](orv::IHint* hint) { follow(*hint); });
-    plugins = std::make_unique<PluginHost>(PluginHost::Services{
-        barrier, notifier, application, [this](std::wstring const& sentence) { showStatus(sentence); },
-        orvplatform::handleOf(window.get())});
+    plugins = std::make_unique<PluginHost>(PluginHost::Services{barrier, notifier, application,
+                                                                [this](std::wstring const& sentence) {
+                                                                    pluginProblems += L" " + sentence;
+                                                                    showStatus(sentence);
+                                                                },
+                                                                orvplatform::handleOf(window.get())});
     plugins->loadAll(orv::IPlugin::getPluginPath(nullptr, orv::IPlugin::guiPlugin));
     makeRibbon();
     makeSideBar();
@@ -188,7 +191,8 @@ bool ViewerSession::State::openModel(std::wstring const& path)
     auto const info = orv::recordOf<orvsg::SCInfo>(result.document);
     auto const name = std::filesystem::path(info->file()).filename().wstring();
     closeModel();
-    showStatus(L"\"" + name + L"\" is open.");
+    // What kept a plug-in out was said before there was a model; it is said once more where a user looks now.
+    showStatus(L"\"" + name + L"\" is open." + std::exchange(pluginProblems, {}));
     window->showModel(QString::fromStdWString(name));
     showDocument(result.document);
     recent.add(info->file());

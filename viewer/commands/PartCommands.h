@@ -19,7 +19,7 @@ void makeTransparent(CommandContext& context, std::set<int> const& nodes, float 
 /// Moves by millimetres along the model's axes, in addition to earlier moves. A node below another of the set goes with
 /// that one.
 void moveNodes(CommandContext& context, std::set<int> const& nodes, double x, double y, double z);
-/// Brings colours, transparency, visibility and placements of all nodes back to what the file says.
+/// Shows all nodes, and brings their colours, transparency and placements back to what the file says.
 void resetNodes(CommandContext& context);
 
 } // namespace orvviewer

@@ -2,6 +2,7 @@
 
 #include "host/orv/FileUtils.h"
 #include "host/orv/IOutlookPane.h"
+#include "platform/text/Text.h"
 #include "viewer/commands/CommandId.h"
 
 #include <afxwin.h>
@@ -42,7 +43,7 @@ void PluginHost::loadAll(std::wstring const& folder)
     }
     load(orv::FileUtils::join(folder, ownPlugin));
     for (auto const& path : others) {
-        load(path.wstring());
+        load(orvtext::fromUtf8(path.string())); // a name that is no UTF-8 can only fail to load
     }
 }
 
