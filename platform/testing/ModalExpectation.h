@@ -8,7 +8,7 @@
 //         clickButton(dialog, 1001);
 //         return IDCANCEL; // counts when the dialog has not been ended by then
 //     });
-//     script.expectModal<CFileDialog>([](CFileDialog& dialog) { choosePath(dialog, L"/tmp/a.stl"); return IDOK; });
+//     script.expectModal<CFileDialog>([](CFileDialog& dialog) { choosePath(dialog, L"a.stl"); return IDOK; });
 
 #include "afxdlgs.h"
 

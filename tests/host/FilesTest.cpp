@@ -82,7 +82,7 @@ TEST(Paths, AreJoinedWithOneSeparator)
 
 TEST(Paths, ASavedFileIsReportedByNameAndExtension)
 {
-    EXPECT_EQ(FileUtils::getStatusFileName(L"/home/ann/bracket.stl"), L"bracket.stl");
+    EXPECT_EQ(FileUtils::getStatusFileName(L"/models/bracket.stl"), L"bracket.stl");
 }
 
 TEST(Directories, AreMadeForTheUserAlone)
