@@ -8,12 +8,15 @@
 #include "host/orvsg/SCSceneRes.h"
 #include "host/orvsg/SCSceneTopo.h"
 #include "host/orvsgutils/SceneQuery.h"
+#include "viewer/import/CrashGuard.h"
 #include "viewer/import/FileKind.h"
 #include "viewer/scene/EdgeRecord.h"
 
 #include <cmath>
 #include <map>
+#include <random>
 #include <set>
+#include <stdexcept>
 
 using namespace orvtest;
 
@@ -289,6 +292,36 @@ TEST(Import, SurvivesEveryCutOfAFileThatClaimsToBeWhole)
         auto const result = importFile(writeFile(folder.path / "cut.step", text));
         EXPECT_TRUE(result.document || !result.error.empty());
     }
+}
+
+TEST(Import, SurvivesWrongReferences)
+{
+    // Every reference of the geometry is there but means something else: readers trip over that in many places.
+    TemporaryFolder const folder;
+    auto const whole = contentOf(sampleModel());
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        std::mt19937 random(seed);
+        std::string text = whole;
+        for (int change = 0; change < 40; ++change) {
+            auto const at = text.find("(#", random() % text.size());
+            auto const end = text.find_first_of(",)", at == std::string::npos ? 0 : at);
+            if (at != std::string::npos && end != std::string::npos && end - at < 12) {
+                text.replace(at, end - at, "(#" + std::to_string(1 + random() % 900));
+            }
+        }
+        auto const result = importFile(writeFile(folder.path / "wrong.step", text));
+        EXPECT_TRUE(result.document || result.error.ends_with(L".")) << seed;
+    }
+}
+
+TEST(Import, AReadersCrashEndsTheReadingAlone)
+{
+    volatile int* const nowhere = nullptr;
+    EXPECT_FALSE(orvviewer::runGuarded([&] { *nowhere = 1; }));
+    EXPECT_FALSE(orvviewer::runGuarded([&] { *nowhere = 2; })) << "and the next one's, too";
+    EXPECT_TRUE(orvviewer::runGuarded([] {}));
+    EXPECT_THROW(orvviewer::runGuarded([] { throw std::runtime_error("passes"); }), std::runtime_error);
+    EXPECT_TRUE(importFile(sampleModel()).document);
 }
 
 TEST(Import, StopsWhenAskedTo)

@@ -5,6 +5,7 @@
 #include "host/orvsg/SCInfo.h"
 #include "host/orvsg/SCPmi.h"
 #include "viewer/import/AssemblyWalker.h"
+#include "viewer/import/CrashGuard.h"
 #include "viewer/import/FileKind.h"
 #include "viewer/import/StepReferences.h"
 #include "viewer/import/XcafReader.h"
@@ -25,6 +26,9 @@ namespace orvviewer
 
 namespace
 {
+
+constexpr wchar_t const* damaged =
+    L"can't be read: its content is damaged. Export the model again and open the new file.";
 
 class ProgressBridge : public Message_ProgressIndicator
 {
@@ -90,7 +94,7 @@ ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& 
         return {nullptr, L"Opening \"" + name + L"\" was stopped.", true};
     }
     if (!isRead) {
-        return failed(name, L"can't be read: its content is damaged. Export the model again and open the new file.");
+        return failed(name, damaged);
     }
     auto records = walkAssembly(structured, file.stem().wstring(), whole.Next(50));
     if (progress.stopRequested) {
@@ -115,9 +119,13 @@ ImportResult importModel(std::wstring const& path, ImportProgress& progress)
             return {nullptr, check.error, false};
         }
         silenceKernel();
-        return readModel(path, check.kind, progress);
+        ImportResult result;
+        if (!runGuarded([&] { result = readModel(path, check.kind, progress); })) {
+            return failed(name, damaged);
+        }
+        return result;
     } catch (Standard_Failure const&) {
-        return failed(name, L"can't be read: its content is damaged. Export the model again and open the new file.");
+        return failed(name, damaged);
     } catch (std::bad_alloc const&) {
         return failed(name, L"needs more memory than there is. Close other programs and try again.");
     } catch (std::exception const&) {
