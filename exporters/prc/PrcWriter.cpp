@@ -1,18 +1,15 @@
 #include "exporters/prc/PrcWriter.h"
 
+#include "exporters/output/OutputFile.h"
 #include "exporters/prc/Compression.h"
 #include "exporters/prc/Sections.h"
 
+#include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <fcntl.h>
 #include <limits>
 #include <new>
 #include <random>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace prc
 {
@@ -80,69 +77,19 @@ Bytes assembled(std::array<Bytes, sectionCount> const& sections, UniqueId const&
     return out;
 }
 
-std::string systemReason(int error)
+// Writes in pieces, so that a long file shows its progress. False where the work was cancelled.
+bool writeAll(orvexport::OutputFile& file, Bytes const& content, std::function<bool(std::size_t)> const& written)
 {
-    return std::strerror(error);
+    constexpr std::size_t most = std::size_t{1} << 20;
+    for (std::size_t done = 0; done < content.size();) {
+        std::size_t const now = std::min(most, content.size() - done);
+        file.write(content.data() + done, now);
+        done += now;
+        if (!written(done))
+            return false;
+    }
+    return true;
 }
-
-// A new file beside the wanted one, removed again unless it is put in its place.
-class TemporaryFile
-{
-public:
-    explicit TemporaryFile(std::filesystem::path const& wanted) : target(wanted)
-    {
-        std::random_device source;
-        do {
-            name = wanted.parent_path() / (".prc-" + std::to_string(source()));
-            descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        } while (descriptor < 0 && errno == EEXIST);
-        if (descriptor < 0)
-            throw std::runtime_error(systemReason(errno));
-    }
-    ~TemporaryFile()
-    {
-        if (descriptor >= 0)
-            close(descriptor);
-        if (!kept)
-            unlink(name.c_str());
-    }
-    TemporaryFile(TemporaryFile const&) = delete;
-    TemporaryFile& operator=(TemporaryFile const&) = delete;
-
-    void write(Bytes const& content, std::function<bool(std::size_t)> const& written)
-    {
-        constexpr std::size_t most = std::size_t{1} << 20;
-        for (std::size_t done = 0; done < content.size();) {
-            ssize_t const now = ::write(descriptor, content.data() + done, std::min(most, content.size() - done));
-            if (now < 0 && errno == EINTR)
-                continue;
-            if (now <= 0)
-                throw std::runtime_error(systemReason(now < 0 ? errno : ENOSPC));
-            done += static_cast<std::size_t>(now);
-            if (!written(done))
-                return;
-        }
-        complete = true;
-    }
-
-    // Some file systems only find out on closing that there was no room.
-    void putInPlace()
-    {
-        int const closed = close(descriptor);
-        descriptor = -1;
-        if (closed != 0 || std::rename(name.c_str(), target.c_str()) != 0)
-            throw std::runtime_error(systemReason(errno));
-        kept = true;
-    }
-
-    bool complete = false;
-
-private:
-    std::filesystem::path target;
-    std::filesystem::path name;
-    int descriptor = -1;
-    bool kept = false;
-};
 
 Bytes encodeSound(Scene const& scene, WriteOptions const& options)
 {
@@ -199,19 +146,17 @@ WriteOutcome writeFile(Scene const& scene, std::filesystem::path const& path, Wr
     try {
         if (auto const problem = problemOf(scene))
             return {WriteOutcome::Result::unsound, "The model can't be written as PRC: " + *problem + "."};
-        if (path.filename().empty())
-            return cannotWrite(path, "the path names no file");
         // Made first: a directory that takes no file is found before the long work, not after it.
-        TemporaryFile file(path);
+        orvexport::OutputFile file(path);
         Bytes const content = encodeSound(scene, options);
         if (content.empty())
             return cancelled;
         double const all = static_cast<double>(content.size());
-        file.write(content, [&](std::size_t done) {
+        bool const complete = writeAll(file, content, [&](std::size_t done) {
             return !options.progress ||
                    options.progress(packedPart + (1 - packedPart) * static_cast<double>(done) / all);
         });
-        if (!file.complete)
+        if (!complete)
             return cancelled;
         file.putInPlace();
         return {};

@@ -1,0 +1,113 @@
+#include "exporters/output/OutputFile.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <random>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace orvexport
+{
+
+namespace
+{
+
+[[noreturn]] void fail(int error)
+{
+    throw OutputError(std::strerror(error));
+}
+
+std::filesystem::path behindLinks(std::filesystem::path path)
+{
+    std::error_code failure;
+    constexpr int longestChain = 40;
+    for (int i = 0; i < longestChain && std::filesystem::is_symlink(path, failure); ++i) {
+        path = path.parent_path() / std::filesystem::read_symlink(path, failure);
+    }
+    return path;
+}
+
+} // namespace
+
+OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks(wanted))
+{
+    if (target.filename().empty()) {
+        throw OutputError("the path names no file");
+    }
+    struct stat old {
+    };
+    bool const replaces = stat(target.c_str(), &old) == 0;
+    if (replaces && S_ISDIR(old.st_mode)) {
+        fail(EISDIR);
+    }
+    constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+    // The administrator's rights would pass over a file's own protection; who protected it meant it.
+    if (replaces && ((old.st_mode & anyWrite) == 0 || access(target.c_str(), W_OK) != 0)) {
+        fail(EACCES);
+    }
+    std::random_device source;
+    do {
+        name = target.parent_path() / (".saving-" + std::to_string(source()));
+        descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    } while (descriptor < 0 && errno == EEXIST);
+    if (descriptor < 0) {
+        fail(errno);
+    }
+    if (replaces) {
+        // Who may read the file stays as it was; a file system without such rights has nothing to keep.
+        [[maybe_unused]] int const ignored = fchmod(descriptor, old.st_mode & 07777);
+    }
+}
+
+OutputFile::~OutputFile()
+{
+    if (descriptor >= 0) {
+        close(descriptor);
+    }
+    if (!kept && !name.empty()) {
+        unlink(name.c_str());
+    }
+}
+
+void OutputFile::write(void const* bytes, std::size_t count)
+{
+    auto const* next = static_cast<char const*>(bytes);
+    while (count > 0) {
+        ssize_t const written = ::write(descriptor, next, count);
+        if (written < 0 && errno == EINTR) {
+            continue;
+        }
+        if (written <= 0) {
+            fail(written < 0 ? errno : ENOSPC);
+        }
+        next += written;
+        count -= static_cast<std::size_t>(written);
+        at += static_cast<std::uint64_t>(written);
+        end = std::max(end, at);
+    }
+}
+
+void OutputFile::seek(std::uint64_t position)
+{
+    if (lseek(descriptor, static_cast<off_t>(position), SEEK_SET) < 0) {
+        fail(errno);
+    }
+    at = position;
+}
+
+void OutputFile::putInPlace()
+{
+    // Some file systems only find out on closing that there was no room.
+    int const closed = close(descriptor);
+    descriptor = -1;
+    if (closed != 0 || std::rename(name.c_str(), target.c_str()) != 0) {
+        fail(errno);
+    }
+    kept = true;
+}
+
+} // namespace orvexport
