@@ -108,24 +108,6 @@ QImage imageOf(HICON icon)
     return icons().contains(icon) ? icon->image : QImage();
 }
 
-QImage decodePicture(const QByteArray& bytes)
-{
-    constexpr int longestSide = 16384;
-    constexpr int mebibytes = 64;
-    QImageReader::setAllocationLimit(mebibytes);
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > longestSide || size.height() > longestSide ||
-        qint64{4} * size.width() * size.height() > qint64{mebibytes} * 1024 * 1024)
-        return {};
-    const QImage image = reader.read();
-    return image.isNull() ? image : image.convertToFormat(QImage::Format_ARGB32);
-}
-
 std::vector<QImage> cutPictures(const QImage& image, QSize size, COLORREF mask)
 {
     QImage source = image.convertToFormat(QImage::Format_ARGB32);

@@ -72,6 +72,18 @@ TEST_F(Picture, IsRefusedWhenItsHeaderAsksForTooMuch)
     EXPECT_EQ(load(image, bytes), E_FAIL);
 }
 
+TEST_F(Picture, IsRefusedWhenItIsLargerThanItsHeaderSays)
+{
+    // The reader says 2 by 2 pixels and makes a picture 16386 pixels high. Found by fuzzing.
+    std::string gif("GIF89a\x02\x00\x02\x40\x80\x00\x00\x00\x00\x00\xFF\xFF\xFF"
+                    "\x2C\x00\x00\x00\x00\x02\x00\x02\x00\x00\x02\x03\x44\x34\x05\x00\x3B",
+                    36);
+    CImage image;
+    EXPECT_EQ(load(image, gif), E_FAIL);
+    gif[9] = 0;
+    EXPECT_EQ(load(image, gif), S_OK) << "of its announced size it is a picture";
+}
+
 TEST_F(Picture, ComesFromAPngResource)
 {
     CPngImage image;
