@@ -1,5 +1,7 @@
 #include "platform/text/Text.h"
 
+#include <algorithm>
+
 namespace orvtext
 {
 namespace
@@ -59,26 +61,39 @@ char32_t readUtf8(std::string_view bytes, std::size_t& at)
 }
 } // namespace
 
+// Feeds carry pictures as text, megabytes of it, nearly all of it plain ASCII. So results are made at their full length
+// once and filled, which the compiler turns into whole vectors of characters.
+
 std::string toUtf8(std::wstring_view text)
 {
-    std::string bytes;
-    bytes.reserve(text.size());
+    std::size_t length = 0;
+    for (const wchar_t character : text) {
+        const char32_t code = checked(character);
+        length += 1u + (code >= 0x80) + (code >= 0x800) + (code >= 0x10000);
+    }
+    std::string bytes(length, '\0');
+    if (length == text.size()) {
+        std::transform(text.begin(), text.end(), bytes.begin(), [](wchar_t c) { return static_cast<char>(c); });
+        return bytes;
+    }
+    char* end = bytes.data();
+    const auto put = [&end](char32_t byte) { *end++ = static_cast<char>(byte); };
     for (const wchar_t character : text) {
         const char32_t code = checked(character);
         if (code < 0x80) {
-            bytes += static_cast<char>(code);
+            put(code);
         } else if (code < 0x800) {
-            bytes += static_cast<char>(0xC0 | code >> 6);
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
+            put(0xC0 | code >> 6);
+            put(0x80 | (code & 0x3F));
         } else if (code < 0x10000) {
-            bytes += static_cast<char>(0xE0 | code >> 12);
-            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
+            put(0xE0 | code >> 12);
+            put(0x80 | (code >> 6 & 0x3F));
+            put(0x80 | (code & 0x3F));
         } else {
-            bytes += static_cast<char>(0xF0 | code >> 18);
-            bytes += static_cast<char>(0x80 | (code >> 12 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (code & 0x3F));
+            put(0xF0 | code >> 18);
+            put(0x80 | (code >> 12 & 0x3F));
+            put(0x80 | (code >> 6 & 0x3F));
+            put(0x80 | (code & 0x3F));
         }
     }
     return bytes;
@@ -86,10 +101,11 @@ std::string toUtf8(std::wstring_view text)
 
 std::wstring fromUtf8(std::string_view bytes)
 {
-    std::wstring text;
-    text.reserve(bytes.size());
+    std::wstring text(bytes.size(), L'\0'); // as long as it can get
+    wchar_t* end = text.data();
     for (std::size_t at = 0; at < bytes.size();)
-        text += static_cast<wchar_t>(readUtf8(bytes, at));
+        *end++ = static_cast<wchar_t>(readUtf8(bytes, at));
+    text.resize(static_cast<std::size_t>(end - text.data()));
     return text;
 }
 
@@ -147,28 +163,32 @@ std::size_t utf16Length(std::wstring_view text)
 
 std::string narrowLowBytes(std::wstring_view text)
 {
-    std::string bytes;
-    bytes.reserve(text.size());
-    for (const char16_t unit : toUtf16(text))
-        bytes += static_cast<char>(unit & 0xFF);
+    const auto low = [](auto unit) { return static_cast<char>(unit & 0xFF); };
+    if (std::none_of(text.begin(), text.end(), [](wchar_t c) { return static_cast<char32_t>(c) > 0xFFFF; })) {
+        std::string bytes(text.size(), '\0');
+        std::transform(text.begin(), text.end(), bytes.begin(), low);
+        return bytes;
+    }
+    const std::u16string units = toUtf16(text);
+    std::string bytes(units.size(), '\0');
+    std::transform(units.begin(), units.end(), bytes.begin(), low);
     return bytes;
 }
 
 std::wstring widenSignExtended(std::string_view bytes)
 {
-    std::wstring text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes)
-        text += static_cast<wchar_t>(static_cast<char16_t>(static_cast<signed char>(byte)));
+    std::wstring text(bytes.size(), L'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) {
+        return static_cast<wchar_t>(static_cast<char16_t>(static_cast<signed char>(byte)));
+    });
     return text;
 }
 
 std::wstring widenBytes(std::string_view bytes)
 {
-    std::wstring text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes)
-        text += static_cast<wchar_t>(static_cast<unsigned char>(byte));
+    std::wstring text(bytes.size(), L'\0');
+    std::transform(bytes.begin(), bytes.end(), text.begin(),
+                   [](char byte) { return static_cast<wchar_t>(static_cast<unsigned char>(byte)); });
     return text;
 }
 } // namespace orvtext

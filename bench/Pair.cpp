@@ -1,0 +1,60 @@
+#include "bench/Pair.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+#include <vector>
+
+namespace orvbench
+{
+
+namespace
+{
+
+double median(std::vector<double> values)
+{
+    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+bool timed(Pair::Work const& work, std::vector<double>& times)
+{
+    auto const start = std::chrono::steady_clock::now();
+    bool const succeeded = work();
+    times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    return succeeded;
+}
+
+} // namespace
+
+Pair::Pair(std::string title, Work plainWork, Work ownWork)
+    : name(std::move(title)), plain(std::move(plainWork)), own(std::move(ownWork))
+{
+}
+
+void Pair::run(benchmark::State& state)
+{
+    std::vector<double> plainTimes;
+    std::vector<double> ownTimes;
+    bool plainFirst = false;
+    done = plain() && own(); // what is made once is made before the clock runs
+    for (auto _ : state) {
+        plainFirst = !plainFirst;
+        bool const first = plainFirst ? timed(plain, plainTimes) : timed(own, ownTimes);
+        bool const second = plainFirst ? timed(own, ownTimes) : timed(plain, plainTimes);
+        if (!first || !second) {
+            done = false;
+            state.SkipWithError("a run failed");
+            return;
+        }
+        state.SetIterationTime(ownTimes.back());
+    }
+    plainMedian = median(plainTimes);
+    ownMedian = median(ownTimes);
+    state.counters["plain_us"] = plainMedian * 1e6;
+    state.counters["own_us"] = ownMedian * 1e6;
+    state.counters["ratio"] = ratio();
+}
+
+} // namespace orvbench

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+#include <string>
+
+namespace orvbench
+{
+
+/// Two ways to the same end, measured in turns in one run, so that whatever else the machine does slows both alike.
+class Pair
+{
+public:
+    using Work = std::function<bool()>; ///< false where the work failed
+
+    /// `name` is the benchmark's; `plain` is what `own` is compared with.
+    Pair(std::string name, Work plain, Work own);
+
+    /// One round of each in each iteration, in alternating order. The benchmark's own time is that of `own`.
+    void run(benchmark::State& state);
+
+    std::string const& title() const { return name; }
+    double ratio() const { return ownMedian / plainMedian; } ///< of the medians; after run
+    bool succeeded() const { return done; }
+
+private:
+    std::string name;
+    Work plain;
+    Work own;
+    double plainMedian = 1.0; ///< seconds
+    double ownMedian = 0.0;
+    bool done = false;
+};
+
+} // namespace orvbench

@@ -1,0 +1,119 @@
+// What a request over loopback costs, compared with plain libcurl on a kept connection in the same run: same server,
+// same bytes on the wire, same answer. Ends non-zero where a small request costs twice as much or more, or where a side
+// made more than its one connection: build/release/bin/bench_request
+
+#include "bench/Aims.h"
+#include "bench/DrainingServer.h"
+#include "bench/Pair.h"
+#include "bench/PlainRequest.h"
+#include "bench/TemporaryData.h"
+#include "host/orvweb/APIUtils.h"
+#include "platform/text/Text.h"
+#include "service/FeedRequests.h"
+
+#include <string>
+#include <vector>
+
+namespace
+{
+
+constexpr double limit = 2.0;
+
+std::wstring const username = L"ann@example.com";
+std::wstring const token = L"7c9e6679-7425-40de-944b-e07fc1f90ae7";
+std::wstring const jobId = L"0f8fad5b-d9cb-469f-a165-70867728950e";
+std::wstring const commentId = L"c0ffee00-0000-4000-8000-000000000001";
+
+std::string secrets()
+{
+    return "X-Api-Key: " + orvtext::toUtf8(orvweb::APIUtils::apiKey()) + "\nAuthorization: Bearer " +
+           orvtext::toUtf8(token);
+}
+
+std::string fields(std::string const& more)
+{
+    return "name=" + orvtext::toUtf8(orvweb::APIUtils::apiId()) + "&username=ann%40example.com" + more;
+}
+
+/// Both sides' requests to one server.
+class Requests
+{
+public:
+    Requests() : data(server.url()), plain(secrets()) {}
+
+    /// From here on every answer is longer than that.
+    void setAnswerLength(std::size_t length)
+    {
+        answer = R"({"name":"Ann","email":"ann@example.com","note":")" + std::string(length, 'x') + "\"}";
+        server.answerWith(answer);
+    }
+
+    orvbench::Pair get(std::string name)
+    {
+        std::string const jobField = "&jobid=0f8fad5b-d9cb-469f-a165-70867728950e";
+        std::string const address = server.url() + "/api/CommentSync/?" + fields(jobField);
+        return {std::move(name), [this, address] { return plain.get(address) == answer; },
+                [this] { return getFeed(username, token, L"", jobId).size() == answer.size(); }};
+    }
+    orvbench::Pair post(std::string name, std::size_t commentLength)
+    {
+        std::string const body = fields("&jobid=0f8fad5b-d9cb-469f-a165-70867728950e"
+                                        "&commentid=c0ffee00-0000-4000-8000-000000000001&comment=" +
+                                        std::string(commentLength, 'x') + "&filename=gearbox.step");
+        std::wstring const comment(commentLength, L'x');
+        return {std::move(name),
+                [this, body] { return plain.post(server.url() + "/api/CommentSync/", body) == answer; },
+                [this, comment] {
+                    return addFeed(username, token, L"gearbox.step", commentId, comment, jobId).size() == answer.size();
+                }};
+    }
+
+    int connections() const { return server.connections(); }
+
+private:
+    orvbench::DrainingServer server;
+    std::string answer;
+    orvbench::TemporaryData data;
+    orvbench::PlainRequest plain;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Requests requests;
+    struct Case {
+        orvbench::Pair pair;
+        std::size_t answerLength; ///< bytes
+        int iterations;
+        bool hasAim; ///< megabytes of wide text cost more than their way over loopback, whatever carries them
+    };
+    std::vector<Case> cases;
+    cases.push_back({requests.get("Get/64B"), 64, 4000, true});
+    cases.push_back({requests.get("Get/1MiB"), std::size_t{1} << 20, 300, false});
+    cases.push_back({requests.post("PostForm/64B", 64), 64, 4000, true});
+    cases.push_back({requests.post("PostForm/64KiB", 65536), 64, 1000, false});
+
+    benchmark::Initialize(&argc, argv);
+    for (Case& each : cases) {
+        auto const run = [&](benchmark::State& state) {
+            requests.setAnswerLength(each.answerLength);
+            each.pair.run(state);
+        };
+        benchmark::RegisterBenchmark(each.pair.title().c_str(), run)
+            ->UseManualTime()
+            ->Unit(benchmark::kMicrosecond)
+            ->Iterations(each.iterations);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+
+    orvbench::Aims aims;
+    for (Case const& each : cases) {
+        aims.expect(each.pair.title() + " got its answers", each.pair.succeeded());
+        if (each.hasAim) {
+            aims.expectUnder(each.pair.title() + ", times plain libcurl", each.pair.ratio(), limit, "");
+        }
+    }
+    aims.expect("one kept connection a side", requests.connections() == 2);
+    return aims.exitStatus();
+}
