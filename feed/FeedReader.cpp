@@ -29,7 +29,7 @@ float floatOf(Json::Value const& value)
 // The element access below is the non-const one on purpose: it creates what is missing as null, and null reads as zero.
 Vector3 vectorOf(Json::Value& value)
 {
-    return Vector3(floatOf(value[0U]), floatOf(value[1U]), floatOf(value[2U]));
+    return Vector3{floatOf(value[0U]), floatOf(value[1U]), floatOf(value[2U])};
 }
 
 Matrix4 matrixOf(Json::Value& value)
@@ -90,12 +90,13 @@ Feed recordOf(Json::Value& document)
 {
     Feed feed;
     Json::Value& author = document["author"];
-    feed.author = FeedAuthor(textOf(author["id"]), textOf(author["name"]), textOf(author["email"]),
-                             author["canDelete"].asBool(), author["canEdit"].asBool());
+    // Braces read the members in this order: of two broken ones the first is told.
+    feed.author = FeedAuthor{textOf(author["id"]), textOf(author["name"]), textOf(author["email"]),
+                             author["canDelete"].asBool(), author["canEdit"].asBool()};
     Json::Value& file = document["file"];
-    feed.file = FeedFile(textOf(file["id"]), textOf(file["name"]));
+    feed.file = FeedFile{textOf(file["id"]), textOf(file["name"])};
     Json::Value& action = document["action"];
-    feed.action = FeedAction(textOf(action["type"]), textOf(action["value"]));
+    feed.action = FeedAction{textOf(action["type"]), textOf(action["value"])};
 
     Json::Value& comment = document["commentcontent"];
     feed.comment.viewport = viewportOf(comment["viewport"]);

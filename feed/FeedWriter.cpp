@@ -1,87 +1,178 @@
 #include "feed/FeedWriter.h"
 
-#include "platform/text/Text.h"
-#include "service/JsonText.h"
+#include "feed/JsonLine.h"
 #include "service/ReplaceAll.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <map>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace
 {
 
-Json::Value textValue(std::wstring const& text)
+// Members stand in ascending byte order of their names, at every level.
+
+void writeAction(JsonLine& line, FeedAction const& action)
 {
-    return Json::Value(orvtext::toUtf8(text));
+    line.beginObject();
+    line.member("type", action.type);
+    line.member("value", action.value);
+    line.endObject();
 }
 
-Json::Value vectorValue(Vector3 const& vector)
+void writeAuthor(JsonLine& line, FeedAuthor const& author)
 {
-    Json::Value value;
-    for (unsigned char i = 0; i < 3; ++i) {
-        value[static_cast<Json::ArrayIndex>(i)] = static_cast<double>(vector[i]);
-    }
-    return value;
+    line.beginObject();
+    line.member("canDelete", author.canDelete);
+    line.member("canEdit", author.canEdit);
+    line.member("email", author.email);
+    line.member("id", author.id);
+    line.member("name", author.name);
+    line.endObject();
 }
 
-Json::Value matrixValue(Matrix4 const& matrix)
+void writeFile(JsonLine& line, FeedFile const& file)
 {
-    Json::Value value;
-    for (unsigned char i = 0; i < 16; ++i) {
-        value[static_cast<Json::ArrayIndex>(i)] = static_cast<double>(matrix[i]);
-    }
-    return value;
+    line.beginObject();
+    line.member("id", file.id);
+    line.member("name", file.name);
+    line.endObject();
 }
 
-void addNodes(Json::Value& comment, char const* name, std::vector<int> const& nodes)
+template <std::size_t N>
+void writeNumbers(JsonLine& line, orvmath::Tuple<float, N> const& numbers)
 {
-    for (std::size_t i = 0; i < nodes.size(); ++i) {
-        comment["objects"][name][static_cast<Json::ArrayIndex>(i)] = nodes[i];
+    line.beginArray();
+    for (unsigned char i = 0; i < N; ++i) {
+        line.value(static_cast<double>(numbers[i]));
+    }
+    line.endArray();
+}
+
+void writeNodes(JsonLine& line, std::string_view name, std::vector<int> const& nodes)
+{
+    if (nodes.empty()) {
+        return;
+    }
+    line.key(name);
+    line.beginArray();
+    for (int const node : nodes) {
+        line.value(node);
+    }
+    line.endArray();
+}
+
+/// The text of a node as a key, without memory of its own: records have many.
+class NodeKey
+{
+public:
+    explicit NodeKey(int node)
+        : length(static_cast<std::size_t>(std::to_chars(digits.data(), digits.data() + digits.size(), node).ptr -
+                                          digits.data()))
+    {
+    }
+    std::string_view text() const { return {digits.data(), length}; }
+
+private:
+    std::array<char, 12> digits{};
+    std::size_t length;
+};
+
+/// Calls `write` for each node of the map in the order of the nodes' texts, in which 10 stands before 9.
+template <class Value, class Write>
+void forEachByText(std::map<int, Value> const& values, Write write)
+{
+    std::vector<std::pair<NodeKey, Value const*>> entries;
+    entries.reserve(values.size());
+    for (auto const& [node, value] : values) {
+        entries.emplace_back(NodeKey(node), &value);
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](auto const& a, auto const& b) { return a.first.text() < b.first.text(); });
+    for (auto const& [key, value] : entries) {
+        write(key.text(), *value);
     }
 }
 
-// Nothing creates "objects" by itself: a record without any node states has no such member.
-void addObjects(Json::Value& comment, FeedObjects const& objects)
+void writeObjects(JsonLine& line, FeedObjects const& objects)
 {
-    addNodes(comment, "transparent", objects.transparent);
-    addNodes(comment, "hidden", objects.hidden);
-    for (auto const& [node, matrix] : objects.nodetransform) {
-        comment["objects"]["nodetransform"][std::to_string(node)] = matrixValue(matrix);
+    line.beginObject();
+    writeNodes(line, "hidden", objects.hidden);
+    if (!objects.nodecolor.empty()) {
+        line.key("nodecolor");
+        line.beginObject();
+        forEachByText(objects.nodecolor, [&line](std::string_view node, int color) { line.member(node, color); });
+        line.endObject();
     }
-    for (auto const& [node, color] : objects.nodecolor) {
-        comment["objects"]["nodecolor"][std::to_string(node)] = color;
+    if (!objects.nodetransform.empty()) {
+        line.key("nodetransform");
+        line.beginObject();
+        forEachByText(objects.nodetransform, [&line](std::string_view node, Matrix4 const& matrix) {
+            line.key(node);
+            writeNumbers(line, matrix);
+        });
+        line.endObject();
     }
+    writeNodes(line, "transparent", objects.transparent);
+    line.endObject();
+}
+
+void writeViewport(JsonLine& line, FeedViewport const& viewport)
+{
+    line.beginObject();
+    line.key("eye");
+    writeNumbers(line, viewport.eye);
+    line.key("target");
+    writeNumbers(line, viewport.target);
+    line.key("up");
+    writeNumbers(line, viewport.up);
+    line.member("zoom", viewport.zoom);
+    line.endObject();
+}
+
+void writeComment(JsonLine& line, FeedComment const& comment)
+{
+    FeedObjects const& objects = comment.objects;
+    line.beginObject();
+    line.member("commentType", comment.commentType);
+    line.member("content", comment.content);
+    line.member("id", comment.id);
+    // A record without any node states has no such member; colours by position alone don't make one.
+    if (!objects.hidden.empty() || !objects.nodecolor.empty() || !objects.nodetransform.empty() ||
+        !objects.transparent.empty()) {
+        line.key("objects");
+        writeObjects(line, objects);
+    }
+    line.member("publishedTime", comment.publishedTime);
+    line.member("updatedTime", comment.updatedTime);
+    line.key("viewport");
+    writeViewport(line, comment.viewport);
+    line.endObject();
 }
 
 } // namespace
 
 std::wstring FeedWriter::write(Feed const& feed) const
 {
-    Json::Value root;
-    Json::Value& author = root["author"];
-    author["id"] = textValue(feed.author.id);
-    author["name"] = textValue(feed.author.name);
-    author["email"] = textValue(feed.author.email);
-    author["canDelete"] = feed.author.canDelete;
-    author["canEdit"] = feed.author.canEdit;
-
-    root["file"]["id"] = textValue(feed.file.id);
-    root["file"]["name"] = textValue(feed.file.name);
-
-    Json::Value& comment = root["commentcontent"];
-    comment["id"] = textValue(feed.comment.id);
-    comment["commentType"] = textValue(feed.comment.commentType);
-    comment["content"] = textValue(feed.comment.content);
-    comment["publishedTime"] = textValue(feed.comment.publishedTime);
-    comment["updatedTime"] = textValue(feed.comment.updatedTime);
-    comment["viewport"]["eye"] = vectorValue(feed.comment.viewport.eye);
-    comment["viewport"]["target"] = vectorValue(feed.comment.viewport.target);
-    comment["viewport"]["up"] = vectorValue(feed.comment.viewport.up);
-    comment["viewport"]["zoom"] = feed.comment.viewport.zoom;
-    addObjects(comment, feed.comment.objects);
-
-    root["action"]["type"] = textValue(feed.action.type);
-    root["action"]["value"] = textValue(feed.action.value);
-    root["source"] = textValue(feed.source);
-    root["thumbnail"] = textValue(feed.thumbnail);
+    JsonLine line;
+    line.beginObject();
+    line.key("action");
+    writeAction(line, feed.action);
+    line.key("author");
+    writeAuthor(line, feed.author);
+    line.key("commentcontent");
+    writeComment(line, feed.comment);
+    line.key("file");
+    writeFile(line, feed.file);
+    line.member("source", feed.source);
+    line.member("thumbnail", feed.thumbnail);
+    line.endObject();
 
     // Over the whole text, what users wrote included: that is how records stand at the service.
-    return orvtext::fromUtf8(replaceAll(writeJson(root), "null", "[]"));
+    return replaceAll(line.take(), L"null", L"[]");
 }

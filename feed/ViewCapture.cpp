@@ -1,14 +1,11 @@
 #include "feed/ViewCapture.h"
 
-#include "feed/SceneRecords.h"
+#include "feed/SceneCapture.h"
 #include "feed/Thumbnail.h"
 #include "host/orv/FileUtils.h"
 #include "host/orv/GUID.h"
-#include "host/orvgl/CameraHelper.h"
 #include "host/orvgl/ImageRenderer.h"
 #include "host/orvglutils/ImageWriter.h"
-#include "host/orvglutils/MarkupUtils.h"
-#include "host/orvsgutils/MaterialUtils.h"
 #include "host/orvweb/Directories.h"
 #include "platform/text/Text.h"
 #include "service/ModelName.h"
@@ -18,7 +15,6 @@
 #include <fstream>
 #include <iomanip>
 #include <locale>
-#include <set>
 #include <sstream>
 #include <utility>
 
@@ -34,7 +30,6 @@ constexpr int thumbnailPrefixText = 209;
 
 constexpr unsigned int pictureSize = 256;
 constexpr unsigned long pictureMask = 0xFF00FF;
-constexpr double recordedZoom = 1.0;
 
 /// Switches everything off that is drawn besides the model, for its own life.
 class PlainView
@@ -79,78 +74,6 @@ std::wstring currentTimeText()
     return commentTimeText(*std::localtime(&now));
 }
 
-FeedViewport captureCamera(SceneRecords const& records)
-{
-    FeedViewport viewport;
-    if (records.renderer && records.renderer->camera) {
-        Vector3 right;
-        orvgl::CameraHelper::getEyeTargetUp(records.renderer->camera, viewport.eye, viewport.target, right, viewport.up,
-                                            false);
-    }
-    viewport.zoom = recordedZoom;
-    return viewport;
-}
-
-void captureColors(SceneRecords& records, FeedObjects& objects)
-{
-    auto const& colored = records.runtime->coloredNodes;
-    if (colored.size() != 0) {
-        objects.colored.resize(records.topology->nodes.size());
-    }
-    for (int const node : colored) {
-        if (node == -1) {
-            continue;
-        }
-        unsigned long const color = orvsgutils::MaterialUtils::getNodeColor(node, records.resources, records.topology);
-        auto const channel = [color](unsigned shift) {
-            return static_cast<float>(static_cast<double>((color >> shift) & 0xFFU) / 255.0);
-        };
-        if (records.topology->nodes.contains(node)) {
-            objects.colored[static_cast<std::size_t>(node)] = Vector3(channel(0), channel(8), channel(16));
-        }
-        objects.nodecolor.emplace(node, static_cast<int>(color));
-    }
-}
-
-void captureAppearance(orvsg::SCSceneRT const& runtime, FeedObjects& objects)
-{
-    for (int const node : runtime.transparentNodes) {
-        if (node != -1) {
-            objects.transparent.push_back(node);
-        }
-    }
-    for (std::size_t node = 0; node < runtime.visibility.size(); ++node) {
-        if (!runtime.visibility[node]) {
-            objects.hidden.push_back(static_cast<int>(node));
-        }
-    }
-}
-
-void captureMovedNodes(SceneRecords const& records, FeedObjects& objects)
-{
-    std::set<int> moved;
-    orvglutils::MarkupUtils::getMovedComponents(records.resources, records.topology, moved);
-    for (int const node : moved) {
-        int const index = records.topology->transformOfNode.getValue(node);
-        objects.nodetransform.emplace(node, records.resources->transforms.getValue(index).matrix);
-    }
-}
-
-FeedObjects captureObjects(SceneRecords& records)
-{
-    FeedObjects objects;
-    if (records.hasTree() && records.runtime) {
-        captureColors(records, objects);
-    }
-    if (records.runtime) {
-        captureAppearance(*records.runtime, objects);
-    }
-    if (records.hasTree()) {
-        captureMovedNodes(records, objects);
-    }
-    return objects;
-}
-
 } // namespace
 
 Feed captureView(std::shared_ptr<orv::IDocument> const& document, orvweb::UserInfo const& user,
@@ -161,18 +84,19 @@ Feed captureView(std::shared_ptr<orv::IDocument> const& document, orvweb::UserIn
     std::wstring const time = currentTimeText();
     std::wstring const fileName = records.info ? modelName(records.info->file()) : std::wstring();
 
-    FeedAction const action(pluginText(actionTypeText), pluginText(actionValueText));
+    std::wstring const actionType = pluginText(actionTypeText);
+    std::wstring const actionValue = pluginText(actionValueText);
     std::wstring const identity = orv::GUID().toString();
     std::wstring const commentId = identity.substr(1, identity.size() - 2);
     std::wstring const commentType = pluginText(commentTypeText);
     std::wstring const source = pluginText(sourceText);
     std::wstring const thumbnail = pluginText(thumbnailPrefixText) + encodeFileBase64(imagePath);
 
-    FeedViewport const viewport = captureCamera(records);
+    FeedViewport const viewport = captureViewport(records);
     FeedObjects objects = captureObjects(records);
     return Feed(FeedAuthor(user.userid, user.name, user.username, true, true), FeedFile(fileId, fileName),
-                FeedComment(commentId, commentType, text, time, time, viewport, std::move(objects)), action, source,
-                thumbnail);
+                FeedComment(commentId, commentType, text, time, time, viewport, std::move(objects)),
+                FeedAction(actionType, actionValue), source, thumbnail);
 }
 
 std::wstring thumbnailPath()

@@ -9,6 +9,8 @@
 #include "host/orvsgutils/VisibilityChanger.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace
 {
@@ -69,14 +71,20 @@ void updateScene(std::set<int> const& nodes, SceneRecords& records)
     orvglutils::MarkupUtils::updateScene(nodes, records.resources, records.runtime, records.topology, records.info);
 }
 
-/// A channel of a packed colour. A value that no colour has, far outside 0..1, counts as zero.
+/// A channel of a packed colour: cut to an integer, of which the low eight bits count.
 unsigned long channelOf(float value)
 {
+    constexpr float tooLarge = 2147483648.0F; // the first float beyond int
     float const scaled = value * 255.0F;
-    if (!(scaled > -2147483648.0F && scaled < 2147483648.0F)) {
-        return 0;
+    int channel = 0; // of what is no number
+    if (scaled >= tooLarge) {
+        channel = std::numeric_limits<int>::max();
+    } else if (scaled < -tooLarge) {
+        channel = std::numeric_limits<int>::min();
+    } else if (!std::isnan(scaled)) {
+        channel = static_cast<int>(scaled);
     }
-    return static_cast<unsigned long>(static_cast<int>(scaled) & 0xFF);
+    return static_cast<unsigned long>(channel & 0xFF);
 }
 
 } // namespace
@@ -106,7 +114,7 @@ std::set<int> resetTransforms(SceneRecords& records)
     }
     int node = 0;
     for (int const index : records.topology->transformOfNode) {
-        nodes.insert(node++);
+        nodes.insert(nodes.end(), node++);
         records.resources->transforms.setValue(index, records.resources->initialTransforms.getValue(index));
     }
     updateScene(nodes, records);

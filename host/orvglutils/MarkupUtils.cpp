@@ -14,11 +14,12 @@ void MarkupUtils::getMovedComponents(std::shared_ptr<orvsg::SCSceneRes> resource
     if (!resources || !topology) {
         return;
     }
-    for (int node = 0; topology->transformOfNode.contains(node); ++node) {
-        int const index = topology->transformOfNode.getValue(node);
+    int node = -1;
+    for (int const index : topology->transformOfNode) {
+        ++node;
         // Exact on purpose: resetting copies the matrices, so a component that was put back compares equal.
         if (!(resources->transforms.getValue(index).matrix == resources->initialTransforms.getValue(index).matrix)) {
-            moved.insert(node);
+            moved.insert(moved.end(), node);
         }
     }
 }
@@ -33,11 +34,12 @@ void MarkupUtils::updateScene(std::set<int> const& nodes, std::shared_ptr<orvsg:
     orvsg::Transform const identity;
     for (int const node : nodes) {
         int const index = topology->transformOfNode.getValue(node);
-        orvsg::Transform placement = resources->transforms.getValue(index);
+        orvsg::Transform const& placement = resources->transforms.getValue(index);
         // A flag that is already set stays: a set identity places the node as well as an unset one.
         if (!placement.isSet && !(placement.matrix == identity.matrix)) {
-            placement.isSet = true;
-            resources->transforms.setValue(index, placement);
+            orvsg::Transform flagged = placement;
+            flagged.isSet = true;
+            resources->transforms.setValue(index, flagged);
         }
     }
 }

@@ -32,11 +32,7 @@ public:
     std::size_t size() const { return values.size(); }
     bool contains(K key) const { return key >= 0 && static_cast<std::size_t>(key) < values.size(); }
 
-    V const& getValue(K key) const
-    {
-        static V const none = ContainerDefault<V>::make();
-        return contains(key) ? values[static_cast<std::size_t>(key)] : none;
-    }
+    V const& getValue(K key) const { return contains(key) ? values[static_cast<std::size_t>(key)] : none(); }
     void setValue(K key, V const& value)
     {
         if (contains(key)) {
@@ -50,6 +46,12 @@ public:
     const_iterator end() const { return values.end(); }
 
 private:
+    static V const& none()
+    {
+        static V const value = ContainerDefault<V>::make();
+        return value;
+    }
+
     std::vector<V> values;
 };
 

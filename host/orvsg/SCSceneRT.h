@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/orvsg/Container.h"
+#include "host/orvsg/NodeList.h"
 #include "host/orvsg/Schema.h"
 
 #include <vector>
@@ -17,9 +17,9 @@ public:
     /// Indexed by node; a node shows if its own bit and all its ancestors' are set.
     std::vector<bool> visibility;
     /// Nodes in the order in which they were made transparent; -1 stands for no node.
-    Container<int, int> transparentNodes;
+    NodeList transparentNodes;
     /// Nodes in the order in which they were coloured; -1 stands for no node.
-    Container<int, int> coloredNodes;
+    NodeList coloredNodes;
 };
 
 } // namespace orvsg

@@ -17,31 +17,25 @@ namespace
 constexpr unsigned long defaultColor = 0xB4B4B4;
 constexpr unsigned long colorBits = 0xFFFFFF;
 
-int placeOf(orvsg::Container<int, int> const& list, int node)
+void takeColorOff(orvsg::Material& material)
 {
-    auto const found = std::find(list.begin(), list.end(), node);
-    return found == list.end() ? -1 : static_cast<int>(found - list.begin());
+    material.isColored = false;
+    material.color = 0;
 }
 
-/// A node stands in its list once; a place that was given up is taken first.
-void enter(orvsg::Container<int, int>& list, int node)
+void takeTransparencyOff(orvsg::Material& material)
 {
-    if (placeOf(list, node) >= 0) {
-        return;
-    }
-    int const free = placeOf(list, -1);
-    if (free >= 0) {
-        list.setValue(free, node);
-    } else {
-        list.append(node);
-    }
+    material.isTransparent = false;
+    material.transparency = 0.0F;
 }
 
-void leave(orvsg::Container<int, int>& list, int node)
+template <class Change>
+void changeExisting(int node, orvsg::SCSceneRes& resources, Change change)
 {
-    int const place = placeOf(list, node);
-    if (place >= 0) {
-        list.setValue(place, -1);
+    if (resources.materials.contains(node)) {
+        orvsg::Material material = resources.materials.getValue(node);
+        change(material);
+        resources.materials.setValue(node, material);
     }
 }
 
@@ -55,9 +49,7 @@ bool changeMaterial(int node, MaterialUtils::Res& resources, MaterialUtils::Topo
     while (!resources->materials.contains(node)) {
         resources->materials.append({});
     }
-    orvsg::Material material = resources->materials.getValue(node);
-    change(material);
-    resources->materials.setValue(node, material);
+    changeExisting(node, *resources, change);
     return true;
 }
 
@@ -84,7 +76,7 @@ void MaterialUtils::setNodeColor(int node, unsigned long color, Res& resources, 
         material.color = color & colorBits;
     });
     if (isDone && runtime) {
-        enter(runtime->coloredNodes, node);
+        runtime->coloredNodes.enter(node);
     }
 }
 
@@ -95,43 +87,37 @@ void MaterialUtils::setNodeTransparency(int node, float transparency, Res& resou
         material.transparency = std::isfinite(transparency) ? std::clamp(transparency, 0.0F, 1.0F) : 0.0F;
     });
     if (isDone && runtime) {
-        enter(runtime->transparentNodes, node);
+        runtime->transparentNodes.enter(node);
     }
 }
 
 void MaterialUtils::clearNodeColor(int node, Res& resources, RT& runtime, Topo& topology)
 {
-    bool const isDone = changeMaterial(node, resources, topology, [](orvsg::Material& material) {
-        material.isColored = false;
-        material.color = 0;
-    });
-    if (isDone && runtime) {
-        leave(runtime->coloredNodes, node);
+    if (changeMaterial(node, resources, topology, takeColorOff) && runtime) {
+        runtime->coloredNodes.leave(node);
     }
 }
 
 void MaterialUtils::clearNodeTransparency(int node, Res& resources, RT& runtime, Topo& topology)
 {
-    bool const isDone = changeMaterial(node, resources, topology, [](orvsg::Material& material) {
-        material.isTransparent = false;
-        material.transparency = 0.0F;
-    });
-    if (isDone && runtime) {
-        leave(runtime->transparentNodes, node);
+    if (changeMaterial(node, resources, topology, takeTransparencyOff) && runtime) {
+        runtime->transparentNodes.leave(node);
     }
 }
 
 void MaterialUtils::resetAll(Res& resources, RT& runtime, Topo& /*topology*/)
 {
-    if (resources) {
+    if (resources && runtime) {
+        for (int const node : runtime->coloredNodes) {
+            changeExisting(node, *resources, takeColorOff);
+        }
+        for (int const node : runtime->transparentNodes) {
+            changeExisting(node, *resources, takeTransparencyOff);
+        }
+    } else if (resources) {
         for (int node = 0; resources->materials.contains(node); ++node) {
-            orvsg::Material material = resources->materials.getValue(node);
-            if (material.isColored || material.isTransparent) {
-                material.isColored = material.isTransparent = false;
-                material.color = 0;
-                material.transparency = 0.0F;
-                resources->materials.setValue(node, material);
-            }
+            changeExisting(node, *resources, takeColorOff);
+            changeExisting(node, *resources, takeTransparencyOff);
         }
     }
     if (runtime) {

@@ -13,7 +13,8 @@ namespace orvsgutils
 {
 
 /// Colours and transparency that a user lays over the model. Packed colour: red in bits 0-7, green in 8-15, blue in
-/// 16-23. A node outside the model is ignored.
+/// 16-23. A node outside the model is ignored. The materials and the lists of the run-time state say the same as long
+/// as both are changed here alone.
 class MaterialUtils
 {
 public:
@@ -31,7 +32,8 @@ public:
     /// Takes one node's colour, and one node's transparency, off again; its places in the lists become -1.
     static void clearNodeColor(int node, Res& resources, RT& runtime, Topo& topology);
     static void clearNodeTransparency(int node, Res& resources, RT& runtime, Topo& topology);
-    /// Takes all colours and transparencies of the user off and empties both lists.
+    /// Takes the colours and transparencies of all listed nodes off and empties both lists; the cost is that of the
+    /// lists. Without run-time state it goes through all nodes.
     static void resetAll(Res& resources, RT& runtime, Topo& topology);
 };
 

@@ -3,6 +3,7 @@
 #include "host/orv/IDocument.h"
 #include "host/orvsg/SCSceneRT.h"
 #include "host/orvsg/SCSceneRes.h"
+#include "host/orvsgutils/DepthFirstWalk.h"
 #include "host/orvsgutils/MaterialUtils.h"
 #include "host/orvsgutils/TreeWalk.h"
 
@@ -15,31 +16,6 @@ namespace orvsgutils
 
 namespace
 {
-
-using Matrix = orvmath::Tuple<double, 16>;
-
-Matrix identity()
-{
-    Matrix matrix;
-    matrix[0] = matrix[5] = matrix[10] = matrix[15] = 1.0;
-    return matrix;
-}
-
-Matrix placedBy(orvmath::Tuple<float, 16> const& left, Matrix const& right)
-{
-    Matrix product;
-    for (unsigned column = 0; column < 4; ++column) {
-        for (unsigned row = 0; row < 4; ++row) {
-            double sum = 0.0;
-            for (unsigned k = 0; k < 4; ++k) {
-                sum += static_cast<double>(left[static_cast<unsigned char>(k * 4 + row)]) *
-                       right[static_cast<unsigned char>(column * 4 + k)];
-            }
-            product[static_cast<unsigned char>(column * 4 + row)] = sum;
-        }
-    }
-    return product;
-}
 
 float unitRange(float value)
 {
@@ -72,14 +48,14 @@ int SceneQuery::nodeCount() const
 
 orvmath::Tuple<double, 16> SceneQuery::worldMatrix(int node) const
 {
-    Matrix world = identity();
+    Matrix world = identityMatrix();
     if (!res || !topo || !topo->nodes.contains(node)) {
         return world;
     }
     for (; node >= 0; node = parentOf(*topo, node)) {
         orvsg::Transform const& placement = res->transforms.getValue(topo->transformOfNode.getValue(node));
         if (placement.isSet) {
-            world = placedBy(placement.matrix, world);
+            world = product(widened(placement.matrix), world);
         }
     }
     return world;

@@ -186,7 +186,11 @@ TEST_F(ViewReplay, KeepsTheLowBitsOfAnOddChannel)
     feed.comment.objects.colored = {Vector3(2.0F, -1.0F, 0.0F), Vector3(infinity, nan, 1e30F)};
     restore();
     EXPECT_EQ(materialOf(0).color, 0x0001FEU) << "510 and -255 keep their low eight bits";
-    EXPECT_EQ(materialOf(1).color, 0U);
+    EXPECT_EQ(materialOf(1).color, 0xFF00FFU) << "the largest int ends in 0xFF, and what is no number is 0";
+    feed.comment.objects.colored = {Vector3(-infinity, -1e30F, 8421504.0F), Vector3(8421505.0F, 256.0F, -0.003F)};
+    restore();
+    EXPECT_EQ(materialOf(0).color, 0x800000U) << "the smallest int ends in 0; 2147483520 ends in 0x80";
+    EXPECT_EQ(materialOf(1).color, 0x0000FFU) << "the largest int; 65280 ends in 0; -0.7 is cut to 0";
 }
 
 TEST_F(ViewReplay, MovesTheNodesOfTheRecordAndPutsTheOthersBack)

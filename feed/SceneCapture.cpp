@@ -1,0 +1,105 @@
+#include "feed/SceneCapture.h"
+
+#include "host/orvgl/CameraHelper.h"
+#include "host/orvglutils/MarkupUtils.h"
+#include "host/orvsgutils/MaterialUtils.h"
+
+#include <cstddef>
+#include <map>
+#include <set>
+
+namespace
+{
+
+constexpr double recordedZoom = 1.0;
+
+/// Both lists are mostly in ascending order, so the end is the place to look first.
+template <class Value>
+void insertLast(std::map<int, Value>& map, int node, Value const& value)
+{
+    map.emplace_hint(map.end(), node, value);
+}
+
+float channelOf(unsigned long color, unsigned shift)
+{
+    return static_cast<float>(static_cast<double>((color >> shift) & 0xFFU) / 255.0);
+}
+
+void captureColors(SceneRecords& records, FeedObjects& objects)
+{
+    auto const& colored = records.runtime->coloredNodes;
+    if (colored.size() != 0) {
+        objects.colored.resize(records.topology->nodes.size());
+    }
+    for (int const node : colored) {
+        if (node == -1) {
+            continue;
+        }
+        unsigned long const color = orvsgutils::MaterialUtils::getNodeColor(node, records.resources, records.topology);
+        if (records.topology->nodes.contains(node)) {
+            objects.colored[static_cast<std::size_t>(node)] =
+                Vector3(channelOf(color, 0), channelOf(color, 8), channelOf(color, 16));
+        }
+        insertLast(objects.nodecolor, node, static_cast<int>(color));
+    }
+}
+
+void captureTransparency(orvsg::SCSceneRT const& runtime, FeedObjects& objects)
+{
+    for (int const node : runtime.transparentNodes) {
+        if (node != -1) {
+            objects.transparent.push_back(node);
+        }
+    }
+}
+
+void captureVisibility(orvsg::SCSceneRT const& runtime, FeedObjects& objects)
+{
+    int node = 0;
+    for (bool const isVisible : runtime.visibility) {
+        if (!isVisible) {
+            objects.hidden.push_back(node);
+        }
+        ++node;
+    }
+}
+
+void captureMovedNodes(SceneRecords const& records, FeedObjects& objects)
+{
+    std::set<int> moved;
+    orvglutils::MarkupUtils::getMovedComponents(records.resources, records.topology, moved);
+    for (int const node : moved) {
+        int const index = records.topology->transformOfNode.getValue(node);
+        insertLast(objects.nodetransform, node, records.resources->transforms.getValue(index).matrix);
+    }
+}
+
+} // namespace
+
+FeedViewport captureViewport(SceneRecords const& records)
+{
+    FeedViewport viewport;
+    if (records.renderer && records.renderer->camera) {
+        Vector3 right;
+        orvgl::CameraHelper::getEyeTargetUp(records.renderer->camera, viewport.eye, viewport.target, right, viewport.up,
+                                            false);
+    }
+    viewport.zoom = recordedZoom;
+    return viewport;
+}
+
+FeedObjects captureObjects(SceneRecords& records)
+{
+    FeedObjects objects;
+    if (records.hasTree() && records.runtime) {
+        captureColors(records, objects);
+    }
+    if (records.runtime) {
+        captureTransparency(*records.runtime, objects);
+        captureVisibility(*records.runtime, objects);
+    }
+    if (records.hasTree()) {
+        captureMovedNodes(records, objects);
+    }
+    return objects;
+}
