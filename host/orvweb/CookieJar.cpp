@@ -44,23 +44,40 @@ bool hasExpired(std::string const& line, std::time_t now)
     return expiry != 0 && expiry <= static_cast<long long>(now);
 }
 
+/// The file's lines that begin with the service and a tab, without both, or all others as they are.
+std::string linesOf(std::wstring const& path, std::string const& service, bool isOwn)
+{
+    std::istringstream lines(orvhost::readFile(orvhost::nativePath(path), jarLimit));
+    std::string const mark = service + '\t';
+    std::string found;
+    for (std::string line; std::getline(lines, line);) {
+        auto const end = line.find('\t');
+        if (end == std::string::npos || !isCookieLine(line.substr(end + 1))) {
+            continue;
+        }
+        if (line.starts_with(mark) == isOwn) {
+            found.append(isOwn ? line.substr(mark.size()) : line).push_back('\n');
+        }
+    }
+    return found;
+}
+
 } // namespace
 
-void CookieJar::load(CURL* handle)
+void CookieJar::load(CURL* handle, std::string const& service)
 {
-    if (path == jarPath()) {
+    if (path == jarPath() && owner == service) {
         return;
     }
     path = jarPath();
+    owner = service;
     // A comment line switches the cookie engine on, for the handle's life, and adds nothing.
     curl_easy_setopt(handle, CURLOPT_COOKIELIST, "#");
     curl_easy_setopt(handle, CURLOPT_COOKIELIST, "ALL");
-    content = orvhost::readFile(orvhost::nativePath(path), jarLimit);
+    content = linesOf(path, owner, true);
     std::istringstream lines(content);
     for (std::string line; std::getline(lines, line);) {
-        if (isCookieLine(line)) {
-            curl_easy_setopt(handle, CURLOPT_COOKIELIST, line.c_str());
-        }
+        curl_easy_setopt(handle, CURLOPT_COOKIELIST, line.c_str());
     }
 }
 
@@ -68,24 +85,27 @@ void CookieJar::save(CURL* handle)
 {
     curl_slist* list = nullptr;
     curl_easy_getinfo(handle, CURLINFO_COOKIELIST, &list);
-    std::unique_ptr<curl_slist, void (*)(curl_slist*)> const owner(list, curl_slist_free_all);
+    std::unique_ptr<curl_slist, void (*)(curl_slist*)> const listOwner(list, curl_slist_free_all);
+    std::string own;
     std::string text;
     std::time_t const now = std::time(nullptr);
     for (curl_slist const* line = list; line != nullptr; line = line->next) {
         if (!hasExpired(line->data, now)) {
-            text.append(line->data).push_back('\n');
+            own.append(line->data).push_back('\n');
+            text.append(owner).append(1, '\t').append(line->data).push_back('\n');
         }
     }
-    if (text == content) {
+    if (own == content) {
         return;
     }
+    text += linesOf(path, owner, false);
     auto const file = orvhost::nativePath(path);
     std::error_code error;
     bool const isDone = text.empty() ? std::filesystem::remove(file, error) || !error
                                      : orvhost::makeDirectory(file.parent_path()) && orvhost::replaceFile(file, text);
     // What could not be written is tried again after the next request.
     if (isDone) {
-        content = text;
+        content = own;
     }
 }
 

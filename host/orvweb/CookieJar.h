@@ -8,18 +8,21 @@ namespace orvweb
 {
 
 /// Keeps a handle's cookies in the file "session-cookie" of the user's data directory (mode 0600), across runs. The
-/// cookie opens the device registration and the sign-out; it is a secret like the session token.
+/// cookie opens the device registration and the sign-out; it is a secret like the session token. Cookies know no ports,
+/// so the jar keeps those of each service apart: none ever goes to another one on the same machine.
 class CookieJar
 {
 public:
-    /// Gives the handle the cookies of the file, once for each data directory. A missing or broken file has none.
-    void load(CURL* handle);
-    /// Writes the handle's cookies, if they have changed since load or save. Without any the file goes.
+    /// Gives the handle the cookies that the file has of `service` ("https://cloud.example:443"), and no others, as
+    /// soon as the service or the data directory is another one. A missing or broken file has none.
+    void load(CURL* handle, std::string const& service);
+    /// Writes the handle's cookies, if they have changed since load or save. Without any of any service the file goes.
     void save(CURL* handle);
 
 private:
     std::wstring path;   ///< of the file that was loaded; empty before the first load
-    std::string content; ///< what the file holds, as far as we know
+    std::string owner;   ///< the service whose cookies the handle has
+    std::string content; ///< what the file holds of that service, as far as we know
 };
 
 } // namespace orvweb

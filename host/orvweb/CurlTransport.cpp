@@ -1,5 +1,6 @@
 #include "host/orvweb/CurlTransport.h"
 
+#include "host/orvweb/AnswerBody.h"
 #include "host/orvweb/Encoding.h"
 #include "host/orvweb/UrlParts.h"
 #include "host/runtime/Files.h"
@@ -7,7 +8,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <system_error>
+#include <utility>
 
 #include <unistd.h>
 
@@ -24,7 +27,7 @@ using Multipart = std::unique_ptr<curl_mime, void (*)(curl_mime*)>;
 struct Transfer {
     TransferProgress const& progress;
     std::size_t largestAnswer;
-    std::string body;
+    AnswerBody body;
     bool isTooLarge = false;
     int lastUpload = -1;
     int lastDownload = -1;
@@ -50,12 +53,11 @@ std::size_t onBody(char* data, std::size_t /*unit*/, std::size_t count, void* us
         return 0;
     }
     try {
-        transfer.body.append(data, count);
+        return transfer.body.append(data, count) ? count : 0;
     } catch (std::exception const&) {
         transfer.isTooLarge = true;
         return 0;
     }
-    return count;
 }
 
 int onProgress(void* user, curl_off_t downloadTotal, curl_off_t downloaded, curl_off_t uploadTotal,
@@ -71,9 +73,8 @@ int onProgress(void* user, curl_off_t downloadTotal, curl_off_t downloaded, curl
     return 0;
 }
 
-orv::ErrorCode checkAddress(std::string const& url)
+orv::ErrorCode checkAddress(std::optional<UrlParts> const& parts)
 {
-    auto const parts = urlParts(url);
     if (!parts || (parts->scheme != "http" && parts->scheme != "https")) {
         return orv::ErrorCode::invalidRequest;
     }
@@ -100,6 +101,12 @@ orv::ErrorCode codeOf(CURL* handle, CURLcode result, Transfer const& transfer)
     long status = 0;
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
     return status == 200 ? orv::ErrorCode::none : orv::ErrorCode::refused;
+}
+
+/// The service that an address belongs to, with its port.
+std::string serviceOf(UrlParts const& parts)
+{
+    return parts.scheme + "://" + parts.host + ':' + std::to_string(parts.port);
 }
 
 void setRules(CURL* handle, TransferLimits const& limits, bool isPlain)
@@ -164,7 +171,10 @@ HttpResponse failure(orv::ErrorCode code)
 
 } // namespace
 
-CurlTransport::CurlTransport(TransferLimits transferLimits) : limits(transferLimits), handle(makeHandle()) {}
+CurlTransport::CurlTransport(TransferLimits transferLimits, std::filesystem::path authoritiesFile)
+    : limits(transferLimits), authorities(std::move(authoritiesFile)), handle(makeHandle())
+{
+}
 
 CurlTransport::~CurlTransport()
 {
@@ -173,7 +183,8 @@ CurlTransport::~CurlTransport()
 
 HttpResponse CurlTransport::send(HttpRequest const& request, TransferProgress const& progress)
 try {
-    if (auto const code = checkAddress(request.url); code != orv::ErrorCode::none) {
+    auto const address = urlParts(request.url);
+    if (auto const code = checkAddress(address); code != orv::ErrorCode::none) {
         return failure(code);
     }
     auto const file = orvhost::nativePath(request.file);
@@ -185,8 +196,12 @@ try {
         return failure(orv::ErrorCode::unreachable);
     }
     curl_easy_reset(handle); // options alone: connections and cookies stay
-    setRules(handle, limits, request.url.compare(0, 5, "http:") == 0);
-    jar.load(handle);
+    setRules(handle, limits, address->scheme == "http");
+    if (!authorities.empty()) {
+        curl_easy_setopt(handle, CURLOPT_CAINFO, authorities.c_str());
+        curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
+    }
+    jar.load(handle, serviceOf(*address));
 
     Headers const headers = headersOf(request);
     curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headers.get());
@@ -221,7 +236,8 @@ try {
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &response.status);
     jar.save(handle);
     if (response.code == orv::ErrorCode::none) {
-        response.body = std::move(transfer.body);
+        response.body = transfer.body.take();
+        response.code = transfer.body.isLost() ? orv::ErrorCode::broken : orv::ErrorCode::none;
     }
     return response;
 } catch (std::exception const&) {

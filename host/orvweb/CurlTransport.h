@@ -4,6 +4,7 @@
 #include "host/orvweb/ITransport.h"
 
 #include <cstddef>
+#include <filesystem>
 
 namespace orvweb
 {
@@ -21,7 +22,9 @@ struct TransferLimits {
 class CurlTransport final : public ITransport
 {
 public:
-    explicit CurlTransport(TransferLimits limits = {});
+    /// `authorities` is a PEM file of those who vouch for certificates, in place of the system's; empty for the
+    /// system's own.
+    explicit CurlTransport(TransferLimits limits = {}, std::filesystem::path authorities = {});
     ~CurlTransport() override;
     CurlTransport(CurlTransport const&) = delete;
     CurlTransport& operator=(CurlTransport const&) = delete;
@@ -30,6 +33,7 @@ public:
 
 private:
     TransferLimits limits;
+    std::filesystem::path authorities;
     CURL* handle;
     CookieJar jar;
 };
