@@ -26,9 +26,26 @@ protected:
     /// Puts a test library in the place of the viewer's own plug-in.
     void install(char const* name)
     {
-        auto const library =
-            std::filesystem::path(ORV_BINARY_DIR) / "tests" / "viewer-plugins" / (std::string(name) + ".so");
-        std::filesystem::copy_file(library, installed(), std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::copy_file(built(name), installed(), std::filesystem::copy_options::overwrite_existing);
+    }
+    /// Puts one beside the viewer's own plug-in.
+    void installBeside(char const* name)
+    {
+        std::filesystem::copy_file(built(name), guiFolder() / (std::string(name) + ".so"));
+    }
+    static std::filesystem::path built(char const* name)
+    {
+        return std::filesystem::path(ORV_BINARY_DIR) / "tests" / "viewer-plugins" / (std::string(name) + ".so");
+    }
+    /// Expects a sentence that names the file and the reason, and a viewer that works.
+    void expectRefused(char const* file, char const* reason)
+    {
+        EXPECT_NE(status().find(std::string("\"") + file + "\""), std::string::npos) << status();
+        EXPECT_NE(status().find(reason), std::string::npos) << status();
+        EXPECT_TRUE(status().ends_with('.')) << status();
+        EXPECT_EQ(session->plugins().count(), 0U);
+        EXPECT_FALSE(session->window().isSideBarShown()) << "no pane, no side bar";
+        expectWorks();
     }
     std::filesystem::path installed() const { return guiFolder() / "cloudplugin.so"; }
 
@@ -65,42 +82,59 @@ protected:
 TEST_F(PluginHostTest, AMissingPluginIsASentence)
 {
     start();
-    EXPECT_NE(status().find("missing"), std::string::npos) << status();
-    EXPECT_EQ(session->plugins().count(), 0U);
-    EXPECT_FALSE(session->window().isSideBarShown()) << "no pane, no side bar";
-    expectWorks();
+    expectRefused("cloudplugin.so", "is missing");
 }
 
 TEST_F(PluginHostTest, AFileThatIsNoLibraryIsASentence)
 {
     writeFile(installed(), "this is no library");
     start();
-    EXPECT_NE(status().find("can't be loaded"), std::string::npos) << status();
-    expectWorks();
+    expectRefused("cloudplugin.so", "can't be loaded");
 }
 
 TEST_F(PluginHostTest, ALibraryWithoutTheFunctionsIsASentence)
 {
     install("NoEntry");
     start();
-    EXPECT_NE(status().find("createPlugin"), std::string::npos) << status();
-    expectWorks();
+    expectRefused("cloudplugin.so", "lacks the function \"createPlugin\"");
 }
 
 TEST_F(PluginHostTest, ALibraryThatMakesNothingIsASentence)
 {
     install("Empty");
     start();
-    EXPECT_NE(status().find("made no object"), std::string::npos) << status();
-    expectWorks();
+    expectRefused("cloudplugin.so", "made no plug-in");
 }
 
 TEST_F(PluginHostTest, ALibraryThatThrowsWhenLoadedIsASentence)
 {
     install("Refusing");
     start();
-    EXPECT_NE(status().find("refused on purpose"), std::string::npos) << status();
-    expectWorks();
+    expectRefused("cloudplugin.so", "failed to start: refused on purpose");
+}
+
+TEST_F(PluginHostTest, APluginOfAnotherKindIsASentence)
+{
+    install("Other");
+    start();
+    expectRefused("cloudplugin.so", "is no plug-in for the viewer's windows");
+}
+
+TEST_F(PluginHostTest, ABadLibraryLeavesTheOthersAlone)
+{
+    for (char const* const bad : {"NoEntry", "Empty", "Refusing", "Other"}) {
+        SCOPED_TRACE(bad);
+        session.reset();
+        std::filesystem::remove_all(guiFolder());
+        std::filesystem::create_directories(guiFolder());
+        install("Recording");
+        installBeside(bad);
+        start();
+        EXPECT_NE(status().find(std::string("\"") + bad + ".so\""), std::string::npos) << status();
+        EXPECT_EQ(session->plugins().count(), 1U);
+        EXPECT_EQ(session->sideBar().paneCount(), 1);
+        expectWorks();
+    }
 }
 
 TEST_F(PluginHostTest, APluginThatThrowsEverywhereIsSurvived)

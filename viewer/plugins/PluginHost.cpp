@@ -2,12 +2,14 @@
 
 #include "host/orv/FileUtils.h"
 #include "host/orv/IOutlookPane.h"
+#include "host/runtime/Files.h"
 #include "platform/text/Text.h"
 #include "viewer/commands/CommandId.h"
 
 #include <afxwin.h>
 
 #include <algorithm>
+#include <exception>
 #include <filesystem>
 #include <set>
 #include <utility>
@@ -19,6 +21,23 @@ namespace
 {
 
 constexpr wchar_t const* ownPlugin = L"cloudplugin.dll";
+constexpr wchar_t const* advice = L" The viewer works on without it; install the plug-in again to get it back.";
+
+std::wstring named(std::wstring const& path)
+{
+    auto file = orvhost::nativePath(path);
+    if (file.extension() == ".dll") {
+        file.replace_extension(".so");
+    }
+    return L"The library \"" + orvtext::fromUtf8(file.filename().string()) + L"\"";
+}
+
+/// The first line of what an exception says.
+std::wstring reasonOf(char const* what)
+{
+    std::string const text(what);
+    return orvtext::fromUtf8(text.substr(0, text.find_first_of("\r\n")));
+}
 
 } // namespace
 
@@ -36,7 +55,7 @@ void PluginHost::loadAll(std::wstring const& folder)
 {
     std::set<std::filesystem::path> others;
     std::error_code failure;
-    for (auto const& entry : std::filesystem::directory_iterator(folder, failure)) {
+    for (auto const& entry : std::filesystem::directory_iterator(orvhost::nativePath(folder), failure)) {
         if (entry.path().extension() == ".so" && entry.path().stem() != std::filesystem::path(ownPlugin).stem()) {
             others.insert(entry.path());
         }
@@ -50,11 +69,18 @@ void PluginHost::loadAll(std::wstring const& folder)
 bool PluginHost::load(std::wstring const& path)
 {
     Loaded loaded;
-    bool const isMade = services.barrier->run([&] {
+    try {
         loaded.library =
             std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(path.c_str(), "createPlugin", "destroyPlugin");
-    });
-    if (!isMade) {
+    } catch (std::exception const& exception) {
+        services.report(named(path) + L" failed to start: " + reasonOf(exception.what()) + L"." + advice);
+        return false;
+    } catch (...) {
+        services.report(named(path) + L" failed to start." + advice);
+        return false;
+    }
+    if (loaded.library->failure() == orv::LibraryEntry::Failure::madeNothing) {
+        services.report(named(path) + L" made no plug-in." + advice);
         return false;
     }
     if (!loaded.library->isValid()) {
@@ -63,8 +89,7 @@ bool PluginHost::load(std::wstring const& path)
     }
     loaded.plugin = dynamic_cast<orvui::IGUIPlugin*>(loaded.library->get());
     if (loaded.plugin == nullptr) {
-        services.report(L"The library \"" + orv::FileUtils::getStatusFileName(path.c_str()) +
-                        L"\" is no plug-in for the viewer's windows. Move it out of the folder \"gui\".");
+        services.report(named(path) + L" is no plug-in for the viewer's windows. Move it out of the folder \"gui\".");
         return false;
     }
     loaded.resources = std::make_shared<PluginResources>(nextCommand, [this](HWND window) { enrol(window); });
