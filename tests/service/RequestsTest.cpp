@@ -307,11 +307,27 @@ TEST(AccountName, StaysWhereTheAnswerIsNotJson)
     EXPECT_EQ(name, L"before");
 }
 
-TEST(AccountName, OfAWrongKindRaisesTheLibrarysException)
+TEST(AccountName, StaysWhereTheAnswerIsNoObjectOrTheNameHasNoTextForm)
 {
-    std::wstring name;
-    EXPECT_THROW(readAccountName(L"[1]", name), Json::Exception);
-    EXPECT_THROW(readAccountName(L"{\"name\":[]}", name), Json::Exception);
+    std::wstring name = L"before";
+    for (std::wstring const& answer :
+         {std::wstring(L"null"), std::wstring(L"5"), std::wstring(L"true"), std::wstring(L"\"Ann\""),
+          std::wstring(L"[]"), std::wstring(L"[{\"name\":\"Ann\"}]"), std::wstring(L"{\"name\":[]}"),
+          std::wstring(L"{\"name\":{\"first\":\"Ann\"}}"), std::wstring(5000, L'[')}) {
+        EXPECT_FALSE(readAccountName(answer, name)) << answer.substr(0, 40);
+        EXPECT_EQ(name, L"before");
+    }
+}
+
+TEST(AccountName, OfAnyOtherKindIsItsText)
+{
+    std::wstring name = L"before";
+    EXPECT_TRUE(readAccountName(L"{\"name\":42}", name));
+    EXPECT_EQ(name, L"42");
+    EXPECT_TRUE(readAccountName(L"{\"name\":true}", name));
+    EXPECT_EQ(name, L"true");
+    EXPECT_TRUE(readAccountName(L"{\"name\":null}", name));
+    EXPECT_EQ(name, L"");
 }
 
 } // namespace
