@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <climits>
 
 namespace
 {
@@ -122,8 +121,8 @@ BOOL RemoveDirectoryW(LPCWSTR path)
 
 BOOL GetComputerNameW(LPWSTR buffer, LPDWORD size)
 {
-    char bytes[HOST_NAME_MAX + 1] = {};
-    if (!buffer || !size || !succeeded(gethostname(bytes, sizeof bytes - 1)))
+    char bytes[256] = {}; // longer than any that a system of today knows
+    if (!buffer || !size || !succeeded(gethostname(bytes, sizeof bytes)))
         return FALSE;
     const std::wstring name = orvtext::fromUtf8(bytes);
     if (name.size() + 1 > *size) {
