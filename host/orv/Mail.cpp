@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <unistd.h>
+
 namespace orv
 {
 
@@ -15,6 +17,22 @@ namespace
 std::string utf8(wchar_t const* text)
 {
     return text == nullptr ? std::string() : orvtext::toUtf8(text);
+}
+
+/// The system passes an argument of less than 32 memory pages to a program. A longer text ends between two characters,
+/// and says so.
+std::string fitted(std::string text)
+{
+    auto const longest = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) * 32 - 1;
+    if (text.size() <= longest) {
+        return text;
+    }
+    std::string const note = "\n\n[The rest was too long for the mail program.]";
+    std::size_t end = longest - note.size();
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end) + note;
 }
 
 } // namespace
@@ -35,7 +53,7 @@ bool Mail::send(HWND /*window*/, wchar_t const* to, wchar_t const* subject, wcha
     if (address.empty() || address.front() == '-') {
         return false;
     }
-    std::vector<std::string> arguments{"xdg-email", "--utf8", "--subject", utf8(subject), "--body", utf8(body)};
+    std::vector<std::string> arguments{"xdg-email", "--utf8", "--subject", utf8(subject), "--body", fitted(utf8(body))};
     if (attachment != nullptr && *attachment != L'\0') {
         arguments.insert(arguments.end(), {"--attach", utf8(attachment)});
     }

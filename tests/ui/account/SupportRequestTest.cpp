@@ -5,6 +5,7 @@
 #include "ui/account/BuildSettings.h"
 #include "ui/account/CloudLoginDlg.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -65,6 +66,24 @@ protected:
     }
     /// The tools stay, but no program has announced itself for mail.
     void removeMailClient() { installProgram("xdg-mime", "true"); }
+    /// The tool is there and a client is known, but a mail can't be written.
+    void breakMailClient()
+    {
+        installProgram("xdg-email", "if [ \"$1\" = --version ]; then echo 1; exit 0; fi\nexit 4");
+    }
+    void clickSupportLink()
+    {
+        modals.expectModal<CloudLoginDlg>([](CloudLoginDlg& dialog) -> INT_PTR {
+            EXPECT_TRUE(orvplatform::testing::typeText(dialog, 1017, L"ann@example.com"));
+            EXPECT_TRUE(orvplatform::testing::clickLink(dialog, 1037, buildSettings::supportAddress));
+            EXPECT_TRUE(IsWindow(dialog.GetSafeHwnd())); // stays as it was
+            EXPECT_EQ(orvplatform::testing::textOf(dialog, 1017), L"ann@example.com");
+            return IDCANCEL;
+        });
+        CloudLoginDlg dialog(scene.document, user, helper);
+        dialog.DoModal();
+        EXPECT_TRUE(application->texts.empty());
+    }
 
     std::filesystem::path mailDirectory() const { return dataDirectory / "mails"; }
     /// The mails that have been written, what the client was started with, a line an argument.
@@ -139,16 +158,27 @@ TEST_F(SupportRequestTest, TheMailDescribesTheSystem)
 
 TEST_F(SupportRequestTest, TheLinkOfTheLoginDialogStartsTheRequest)
 {
-    using namespace orvplatform::testing;
     installMailClient();
-    modals.expectModal<CloudLoginDlg>([](CloudLoginDlg& dialog) -> INT_PTR {
-        EXPECT_TRUE(clickLink(dialog, 1037, buildSettings::supportAddress));
-        EXPECT_TRUE(IsWindow(dialog.GetSafeHwnd())); // stays as it was
-        return IDCANCEL;
-    });
-    CloudLoginDlg dialog(scene.document, user, helper);
-    dialog.DoModal();
+    clickSupportLink();
     EXPECT_EQ(mail(), mailWith(systemDescription()));
+}
+
+TEST_F(SupportRequestTest, TheLinkDoesNothingWithoutAMailClient)
+{
+    installMailClient();
+    removeMailClient();
+    clickSupportLink();
+    installMailClient();
+    expectNoMailBefore();
+}
+
+TEST_F(SupportRequestTest, AMailThatFailsToSendIsNotReported)
+{
+    installMailClient();
+    breakMailClient();
+    clickSupportLink();
+    installMailClient();
+    expectNoMailBefore();
 }
 
 TEST_F(SupportRequestTest, TheApplicationsOwnTextTakesItsPlace)
@@ -165,4 +195,42 @@ TEST_F(SupportRequestTest, AnApplicationThatGivesNoTextAfterAllHasNone)
     scene.application->supportText = std::make_shared<OwnSupportText>(nullptr);
     sendSupportRequest(scene.document);
     EXPECT_EQ(mail(), mailWith(systemDescription()));
+}
+
+TEST_F(SupportRequestTest, ATextArrivesCharacterForCharacter)
+{
+    for (std::wstring const& own :
+         {std::wstring(L"It's \"quoted\", `as` $(is) \\ %s %0A & done; --attach /etc/hostname"),
+          std::wstring(L"one\ntwo\r\n\nfour\n"), std::wstring(L"\u65e5\u672c \U0001F600 \u00e9"),
+          std::wstring(L"--help"), std::wstring(L" "), std::wstring(L"")}) {
+        std::filesystem::remove_all(mailDirectory());
+        installMailClient();
+        scene.application->supportText = std::make_shared<OwnSupportText>(own.c_str());
+        clickSupportLink();
+        EXPECT_EQ(mail(), mailWith(orvtext::toUtf8(own)));
+    }
+}
+
+TEST_F(SupportRequestTest, ALongTextArrivesWhole)
+{
+    installMailClient();
+    std::wstring const own(120000, L'x');
+    scene.application->supportText = std::make_shared<OwnSupportText>(own.c_str());
+    clickSupportLink();
+    EXPECT_EQ(mail(), mailWith(orvtext::toUtf8(own)));
+}
+
+// A program takes no argument of 128 KiB or more; a mail that says so is worth more than none.
+TEST_F(SupportRequestTest, ATextThatNoProgramTakesIsShortenedAndSaysSo)
+{
+    installMailClient();
+    std::wstring const own(100000, L'\u65e5'); // three bytes each
+    scene.application->supportText = std::make_shared<OwnSupportText>(own.c_str());
+    clickSupportLink();
+    std::string const sent = mail();
+    EXPECT_NE(sent.find("too long for the mail program"), std::string::npos);
+    EXPECT_EQ(sent.find("\xEF\xBF\xBD"), std::string::npos);
+    EXPECT_GT(sent.size(), 130000U);
+    std::wstring const arrived = orvtext::fromUtf8(sent);
+    EXPECT_EQ(std::count(arrived.begin(), arrived.end(), L'\uFFFD'), 0) << "cut between two characters";
 }
