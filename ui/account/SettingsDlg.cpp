@@ -40,10 +40,8 @@ void SettingsDlg::DoDataExchange(CDataExchange* exchange)
 BOOL SettingsDlg::OnInitDialog()
 {
     CPropertyPage::OnInitDialog();
-    SessionFile const session;
-    if (session.canOpen()) {
-        std::wstring username;
-        session.readFirst(username);
+    std::wstring username;
+    if (SessionFile().readFirst(username)) {
         state.SetWindowTextW((pluginText(resource::text::loggedInAs) + username).c_str());
         button.SetWindowTextW(pluginText(resource::text::logout).c_str());
     } else {
