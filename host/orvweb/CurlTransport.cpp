@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -29,6 +30,7 @@ struct Transfer {
     std::size_t largestAnswer;
     AnswerBody body;
     bool isTooLarge = false;
+    bool isHeadWhole = false; ///< the answer's header came to its end
     int lastUpload = -1;
     int lastDownload = -1;
 
@@ -58,6 +60,19 @@ std::size_t onBody(char* data, std::size_t /*unit*/, std::size_t count, void* us
         transfer.isTooLarge = true;
         return 0;
     }
+}
+
+/// Called for each line of the header, and of interim answers before it.
+std::size_t onHeader(char* line, std::size_t /*unit*/, std::size_t count, void* user) noexcept
+{
+    auto& transfer = *static_cast<Transfer*>(user);
+    std::string_view const text(line, count);
+    if (text.starts_with("HTTP/")) {
+        transfer.isHeadWhole = false;
+    } else if (text == "\r\n" || text == "\n") {
+        transfer.isHeadWhole = true;
+    }
+    return count;
 }
 
 int onProgress(void* user, curl_off_t downloadTotal, curl_off_t downloaded, curl_off_t uploadTotal,
@@ -97,6 +112,10 @@ orv::ErrorCode codeOf(CURL* handle, CURLcode result, Transfer const& transfer)
         curl_off_t ready = 0;
         curl_easy_getinfo(handle, CURLINFO_PRETRANSFER_TIME_T, &ready);
         return ready == 0 ? orv::ErrorCode::unreachable : orv::ErrorCode::broken;
+    }
+    if (!transfer.isHeadWhole) {
+        return orv::ErrorCode::broken; // libcurl takes a connection that ends in the header for an answer without a
+                                       // body
     }
     long status = 0;
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
@@ -215,6 +234,8 @@ try {
             return failure(orv::ErrorCode::unreadableFile);
         }
         curl_easy_setopt(handle, CURLOPT_MIMEPOST, mime.get());
+        // No file is sent twice: on a kept connection that ends without an answer libcurl would begin again by itself.
+        curl_easy_setopt(handle, CURLOPT_FRESH_CONNECT, 1L);
     } else {
         curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(fields.size()));
         curl_easy_setopt(handle, CURLOPT_POSTFIELDS, fields.c_str());
@@ -224,6 +245,8 @@ try {
     Transfer transfer{progress, limits.largestAnswer, {}};
     curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, onBody);
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, &transfer);
+    curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, onHeader);
+    curl_easy_setopt(handle, CURLOPT_HEADERDATA, &transfer);
     if (progress) {
         curl_easy_setopt(handle, CURLOPT_NOPROGRESS, 0L);
         curl_easy_setopt(handle, CURLOPT_XFERINFOFUNCTION, onProgress);

@@ -53,7 +53,8 @@ bool makeDirectory(std::filesystem::path const& path)
 
 bool replaceFile(std::filesystem::path const& path, std::string_view content)
 {
-    std::string temporary = path.string() + ".XXXXXX";
+    // Not the name with something behind it: a name may be as long as the system allows.
+    std::string temporary = (path.parent_path() / ".orvanta-XXXXXX").string();
     int const descriptor = ::mkostemp(temporary.data(), O_CLOEXEC); // mode 0600
     if (descriptor < 0) {
         return false;

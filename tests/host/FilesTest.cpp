@@ -185,6 +185,16 @@ TEST(Replacing, AFileIsPrivateAndWholeOrUntouched)
         << "a temporary file was left behind";
 }
 
+TEST(Replacing, TakesNamesAsLongAsTheSystemAllows)
+{
+    orvtest::HostSession const session;
+    fs::path const file = session.directory() / std::string(255, 'n');
+    EXPECT_TRUE(orvhost::replaceFile(file, "content"));
+    EXPECT_EQ(contentOf(file), "content");
+    EXPECT_FALSE(orvhost::replaceFile(session.directory() / std::string(256, 'n'), "content"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(session.directory()), fs::directory_iterator()), 1);
+}
+
 TEST(Identities, AreUniqueAndReadBack)
 {
     std::set<std::wstring> seen;
