@@ -2,6 +2,7 @@
 
 #include "platform/qt/Native.h"
 #include "platform/testing/ModalExpectation.h"
+#include "platform/text/Text.h"
 
 #include <QFileDialog>
 
@@ -41,6 +42,12 @@ QStringList nameFilters(const std::wstring& pairs)
         result << QStringLiteral("%1 (%2)").arg(description.trimmed(), parts[i + 1].replace(u';', u' '));
     }
     return result;
+}
+
+// Not by way of wide text, which the library converts by the "C" locale: names in UTF-8 would not survive it.
+std::filesystem::path nativePath(const CString& path)
+{
+    return orvtext::toUtf8(path.GetString());
 }
 } // namespace
 
@@ -87,16 +94,16 @@ CString CFileDialog::GetPathName() const
 
 CString CFileDialog::GetFileName() const
 {
-    return std::filesystem::path(GetPathName().GetString()).filename().wstring();
+    return orvtext::fromUtf8(nativePath(GetPathName()).filename().string());
 }
 
 CString CFileDialog::GetFileTitle() const
 {
-    return std::filesystem::path(GetPathName().GetString()).stem().wstring();
+    return orvtext::fromUtf8(nativePath(GetPathName()).stem().string());
 }
 
 CString CFileDialog::GetFileExt() const
 {
-    const std::wstring extension = std::filesystem::path(GetPathName().GetString()).extension().wstring();
+    const std::wstring extension = orvtext::fromUtf8(nativePath(GetPathName()).extension().string());
     return extension.empty() ? extension : extension.substr(1);
 }

@@ -9,6 +9,8 @@
 #include <cwctype>
 #include <filesystem>
 #include <memory>
+#include <set>
+#include <string_view>
 
 namespace orvplatform
 {
@@ -43,6 +45,44 @@ std::wstring moduleName(const std::wstring& path)
     return name;
 }
 
+// The file of that bare name in the directory that SetDllDirectoryW named; empty where there is none.
+std::string inDllDirectory(const std::wstring& name)
+{
+    if (name.empty() || name.find(L'/') != std::wstring::npos || registry().directory.empty())
+        return {};
+    const std::string file = orvtext::toUtf8(registry().directory + L"/" + name);
+    std::error_code error;
+    return std::filesystem::exists(file, error) ? file : std::string();
+}
+
+// Loads a library and what it depends on. The system's loader knows nothing of the directory that SetDllDirectoryW
+// named, but it takes a dependency that is loaded already, whatever its folder. `tried` are the files that were begun:
+// libraries may depend on one another in a circle.
+void* open(const std::string& file, std::set<std::string>& tried)
+{
+    constexpr std::string_view missing = ": cannot open shared object file";
+    std::vector<void*> dependencies;
+    void* library = nullptr;
+    tried.insert(file);
+    while (!(library = dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL))) {
+        const char* const text = dlerror();
+        const std::string reason = text ? text : "unknown reason";
+        const std::size_t end = reason.find(missing);
+        const std::string dependency =
+            end == std::string::npos ? std::string() : inDllDirectory(orvtext::fromUtf8(reason.substr(0, end)));
+        void* const opened = dependency.empty() || tried.count(dependency) ? nullptr : open(dependency, tried);
+        if (!opened) {
+            moduleError = orvtext::fromUtf8(reason);
+            break;
+        }
+        dependencies.push_back(opened);
+    }
+    // The library holds them from here on.
+    for (void* const each : dependencies)
+        dlclose(each);
+    return library;
+}
+
 HMODULE add(void* library, const std::string& file, const std::wstring& name)
 {
     bool readable = false;
@@ -62,7 +102,7 @@ HMODULE program()
     static HMODULE const module = [] {
         std::error_code error;
         const std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", error);
-        HMODULE made = add(nullptr, path.string(), path.filename().wstring());
+        HMODULE made = add(nullptr, path.string(), orvtext::fromUtf8(path.filename().string()));
         return made;
     }();
     return module;
@@ -118,15 +158,18 @@ HMODULE LoadLibraryW(LPCWSTR path)
 {
     moduleError.clear();
     const std::wstring wanted = platformPath(path ? path : L"");
-    std::wstring file = wanted;
-    if (wanted.find(L'/') == std::wstring::npos && !registry().directory.empty() &&
-        std::filesystem::exists(orvtext::toUtf8(registry().directory + L"/" + wanted)))
-        file = registry().directory + L"/" + wanted;
-    void* library = file.empty() ? nullptr : dlopen(orvtext::toUtf8(file).c_str(), RTLD_NOW | RTLD_LOCAL);
+    const std::string known = inDllDirectory(wanted);
+    const std::string file = known.empty() ? orvtext::toUtf8(wanted) : known;
+    void* library = nullptr;
+    if (file.empty()) {
+        moduleError = L"no name was given";
+    } else {
+        std::set<std::string> tried;
+        library = open(file, tried);
+    }
     if (!library) {
-        const char* reason = file.empty() ? "no name was given" : dlerror();
-        moduleError = L"The library \"" + wanted + L"\" could not be loaded: " +
-                      orvtext::fromUtf8(reason ? reason : "unknown reason") + L". Reinstall the application.";
+        moduleError =
+            L"The library \"" + wanted + L"\" could not be loaded: " + moduleError + L". Reinstall the application.";
         SetLastError(ERROR_MOD_NOT_FOUND);
         return nullptr;
     }
@@ -136,7 +179,7 @@ HMODULE LoadLibraryW(LPCWSTR path)
             return module;
         }
     }
-    return add(library, orvtext::toUtf8(file), file);
+    return add(library, file, orvtext::fromUtf8(file));
 }
 
 BOOL FreeLibrary(HMODULE module)

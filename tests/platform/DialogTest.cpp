@@ -278,6 +278,14 @@ TEST_F(Dialog, SavesUnderTheNameThatTheUserChose)
     EXPECT_EQ(dialog.GetFileName(), L"part one.v2.stl");
     EXPECT_EQ(dialog.GetFileTitle(), L"part one.v2");
     EXPECT_EQ(dialog.GetFileExt(), L"stl");
+    script.expectModal<CFileDialog>([](CFileDialog& asked) {
+        choosePath(asked, L"/some/\u00e4/\u6b6f\u8eca.\U0001F600.st\u00e9");
+        return IDOK;
+    });
+    EXPECT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_EQ(dialog.GetFileName(), L"\u6b6f\u8eca.\U0001F600.st\u00e9");
+    EXPECT_EQ(dialog.GetFileTitle(), L"\u6b6f\u8eca.\U0001F600");
+    EXPECT_EQ(dialog.GetFileExt(), L"st\u00e9");
 }
 
 TEST(DialogLoop, WaitsForTheUserWithoutAScript)
