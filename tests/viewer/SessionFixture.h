@@ -4,6 +4,7 @@
 
 #include "platform/Process.h"
 #include "platform/testing/Input.h"
+#include "platform/text/Text.h"
 #include "viewer/app/ViewerSession.h"
 
 #include <memory>
@@ -39,7 +40,7 @@ protected:
         return *session;
     }
 
-    std::string status() const { return std::filesystem::path(session->statusText()).string(); }
+    std::string status() const { return orvtext::toUtf8(session->statusText()); }
 
     TemporaryFolder folder;
     std::unique_ptr<orvviewer::ViewerSession> session;

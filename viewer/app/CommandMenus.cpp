@@ -97,7 +97,8 @@ QMenu* makeRecentMenu(QWidget* parent, RecentFiles const& files, std::function<v
         menu->clear();
         for (auto const& path : files.paths()) {
             QFileInfo const file(QString::fromStdWString(path));
-            auto* action = menu->addAction(files.previewOf(path), file.fileName(), [open, path] { open(path); });
+            auto const name = file.fileName().replace("&", "&&"); // else it would underline the next letter
+            auto* action = menu->addAction(files.previewOf(path), name, [open, path] { open(path); });
             action->setToolTip(file.filePath());
         }
         if (menu->isEmpty()) {

@@ -7,6 +7,8 @@
 #include "host/orvexp/DelayExportHelper.h"
 #include "host/orvexp/ExportHelper.h"
 #include "host/orvexp/ExportManager.h"
+#include "host/runtime/Files.h"
+#include "platform/text/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -26,7 +28,7 @@ constexpr std::array<wchar_t const*, 10> usualExtensions{L"stl", L"obj", L"3ds",
 
 std::wstring extensionOf(std::wstring const& path)
 {
-    auto text = std::filesystem::path(path).extension().wstring();
+    auto text = orvtext::fromUtf8(orvhost::nativePath(path).extension().string());
     text.erase(0, 1);
     std::transform(text.begin(), text.end(), text.begin(),
                    [](wchar_t c) { return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))); });
@@ -39,15 +41,15 @@ std::shared_ptr<orvexp::ExportManager> loadExporters()
     std::vector<std::filesystem::path> libraries;
     std::error_code failure;
     auto const folder = orv::IPlugin::getPluginPath(nullptr, orv::IPlugin::exporterPlugin);
-    for (auto const& entry : std::filesystem::directory_iterator(folder, failure)) {
+    for (auto const& entry : std::filesystem::directory_iterator(orvhost::nativePath(folder), failure)) {
         if (entry.path().extension() == ".so") {
             libraries.push_back(entry.path());
         }
     }
     std::sort(libraries.begin(), libraries.end());
     for (auto const& library : libraries) {
-        auto const entry = std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(library.wstring().c_str(),
-                                                                                 "createPlugin", "destroyPlugin");
+        auto const entry = std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(
+            orvtext::fromUtf8(library.string()).c_str(), "createPlugin", "destroyPlugin");
         if (entry->isValid()) {
             manager->push_back(std::make_shared<orvexp::ExportHelper>(entry));
         }

@@ -7,10 +7,14 @@
 #include "platform/text/Text.h"
 
 #include <QBuffer>
+#include <QImageReader>
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <sstream>
+
+#include <sys/stat.h>
 
 namespace orvviewer
 {
@@ -19,10 +23,24 @@ namespace
 {
 
 constexpr std::size_t listLimit = 1 << 20; ///< bytes
+constexpr int largestPreview = 1024;       ///< pixels a side; ours are smaller
+constexpr char assemblyMark[] = "assembly\t";
+constexpr char partMark[] = "part\t";
 
-std::wstring listPath(std::wstring const& folder)
+bool isThere(std::wstring const& path)
 {
-    return orv::FileUtils::join(folder, L"recent.txt");
+    std::error_code failure;
+    return std::filesystem::exists(orvhost::nativePath(path), failure);
+}
+
+QImage pictureIn(std::wstring const& path)
+{
+    QImageReader reader(QString::fromStdWString(path));
+    reader.setDecideFormatFromContent(true); // the name says nothing, and earlier versions wrote another format
+    bool const isKnown = reader.format() == "png" || reader.format() == "bmp";
+    QSize const size = reader.size();
+    bool const isSmall = size.isValid() && size.width() <= largestPreview && size.height() <= largestPreview;
+    return isKnown && isSmall ? reader.read() : QImage();
 }
 
 } // namespace
@@ -37,38 +55,104 @@ std::wstring RecentFiles::folder()
     return orvhost::makeDirectory(orvhost::nativePath(path)) ? path : std::wstring();
 }
 
-std::wstring RecentFiles::previewPath(std::wstring const& modelPath, bool isAssembly)
+std::wstring RecentFiles::listPath()
+{
+    return orv::FileUtils::join(folder(), L"recent.txt");
+}
+
+std::wstring RecentFiles::previewPath(std::wstring const& modelPath, Kind kind)
 {
     auto const name = orv::FilePath(modelPath.c_str()).getFName();
-    return orv::FileUtils::join(folder(), (isAssembly ? L"asm_" : L"part_") + name + L".bmp");
+    return orv::FileUtils::join(folder(), (kind == Kind::assembly ? L"asm_" : L"part_") + name + L".bmp");
+}
+
+RecentFiles::Stamp RecentFiles::stampOf(std::wstring const& path)
+{
+    struct stat status {
+    };
+    if (::stat(orvhost::nativePath(path).c_str(), &status) != 0) {
+        return {};
+    }
+    return {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino), status.st_size,
+            status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+RecentFiles::Entry RecentFiles::parsed(std::string const& line)
+{
+    for (auto const& [mark, kind] : {std::pair<std::string_view, Kind>{assemblyMark, Kind::assembly},
+                                     std::pair<std::string_view, Kind>{partMark, Kind::part}}) {
+        if (line.starts_with(mark)) {
+            return {orvtext::fromUtf8(line.substr(mark.size())), kind};
+        }
+    }
+    return {orvtext::fromUtf8(line), Kind::unknown};
+}
+
+std::string RecentFiles::line(Entry const& entry)
+{
+    std::string const mark = entry.kind == Kind::assembly ? assemblyMark : entry.kind == Kind::part ? partMark : "";
+    return mark + orvtext::toUtf8(entry.path) + "\n";
+}
+
+bool RecentFiles::refresh() const
+{
+    auto const path = listPath();
+    auto const current = stampOf(path); // before the reading: what is written meanwhile is read the next time
+    if (isKnown && current == stamp) {
+        return false;
+    }
+    entries.clear();
+    std::istringstream lines(orvhost::readFile(orvhost::nativePath(path), listLimit));
+    for (std::string text; std::getline(lines, text) && entries.size() < limit;) {
+        Entry entry = parsed(text);
+        if (!entry.path.empty()) {
+            entries.push_back(std::move(entry));
+        }
+    }
+    stamp = current;
+    isKnown = true;
+    return true;
+}
+
+bool RecentFiles::isEmpty() const
+{
+    if (!isKnown) {
+        refresh();
+    }
+    return entries.empty();
 }
 
 std::vector<std::wstring> RecentFiles::paths() const
 {
+    refresh();
     std::vector<std::wstring> result;
-    std::istringstream lines(orvhost::readFile(orvhost::nativePath(listPath(folder())), listLimit));
-    for (std::string line; std::getline(lines, line) && result.size() < limit;) {
-        std::error_code failure;
-        auto const path = orvtext::fromUtf8(line);
-        if (!path.empty() && std::filesystem::exists(orvhost::nativePath(path), failure)) {
-            result.push_back(path);
+    for (auto const& entry : entries) {
+        if (isThere(entry.path)) {
+            result.push_back(entry.path);
         }
     }
     return result;
 }
 
-void RecentFiles::add(std::wstring const& path)
+void RecentFiles::add(std::shared_ptr<orv::IDocument> const& document)
 {
-    auto list = paths();
-    std::erase(list, path);
-    list.insert(list.begin(), path);
-    list.resize(std::min<std::size_t>(list.size(), limit));
-    std::string text;
-    for (auto const& entry : list) {
-        text += orvtext::toUtf8(entry) + "\n";
+    auto const info = orv::recordOf<orvsg::SCInfo>(document);
+    // A line end in a name would make two entries of it; such a model is opened but not listed.
+    if (!info || info->file()[0] == L'\0' || std::wstring(info->file()).find(L'\n') != std::wstring::npos) {
+        return;
     }
-    if (auto const where = folder(); !where.empty()) {
-        orvhost::replaceFile(orvhost::nativePath(listPath(where)), text);
+    refresh();
+    Entry const added{info->file(), info->documentKind == orvsg::SCInfo::assembly ? Kind::assembly : Kind::part};
+    std::erase_if(entries, [&](Entry const& each) { return each.path == added.path || !isThere(each.path); });
+    entries.insert(entries.begin(), added);
+    entries.resize(std::min<std::size_t>(entries.size(), limit));
+    std::string text;
+    for (auto const& entry : entries) {
+        text += line(entry);
+    }
+    // Where it can't be written the list holds for this run alone.
+    if (!folder().empty() && orvhost::replaceFile(orvhost::nativePath(listPath()), text)) {
+        stamp = stampOf(listPath());
     }
 }
 
@@ -81,8 +165,9 @@ void RecentFiles::savePreview(std::shared_ptr<orv::IDocument> const& document, Q
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (picture.save(&buffer, "BMP")) {
-        auto const path = previewPath(info->file(), info->documentKind == orvsg::SCInfo::assembly);
+    if (picture.save(&buffer, "PNG")) {
+        bool const isAssembly = info->documentKind == orvsg::SCInfo::assembly;
+        auto const path = previewPath(info->file(), isAssembly ? Kind::assembly : Kind::part);
         orvhost::replaceFile(orvhost::nativePath(path),
                              std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
     }
@@ -90,10 +175,24 @@ void RecentFiles::savePreview(std::shared_ptr<orv::IDocument> const& document, Q
 
 QIcon RecentFiles::previewOf(std::wstring const& path) const
 {
-    for (bool const isAssembly : {true, false}) {
-        QImage picture;
-        if (picture.load(QString::fromStdWString(previewPath(path, isAssembly)), "BMP")) {
-            return QIcon(QPixmap::fromImage(picture));
+    refresh();
+    std::set<std::wstring> taken; // by models further up in the list
+    for (auto const& entry : entries) {
+        for (Kind const kind : {Kind::assembly, Kind::part}) {
+            if (entry.kind != Kind::unknown && entry.kind != kind) {
+                continue;
+            }
+            auto const preview = previewPath(entry.path, kind);
+            bool const isOwn = taken.insert(preview).second;
+            if (entry.path != path || !isOwn) {
+                continue;
+            }
+            if (QImage const picture = pictureIn(preview); !picture.isNull()) {
+                return QIcon(QPixmap::fromImage(picture));
+            }
+        }
+        if (entry.path == path) {
+            break;
         }
     }
     return {};

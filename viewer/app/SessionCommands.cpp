@@ -1,5 +1,6 @@
 #include "viewer/app/SessionState.h"
 
+#include "host/orv/FilePath.h"
 #include "host/orvgl/SCRenderer.h"
 #include "host/orvsg/SCInfo.h"
 #include "host/orvsg/SCSceneTopo.h"
@@ -18,8 +19,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cwctype>
-
-#include <filesystem>
 
 namespace orvviewer
 {
@@ -44,7 +43,7 @@ void ViewerSession::State::addCommands()
 {
     auto const hasModel = [this] { return openDocument != nullptr; };
     auto const hasSelection = [this] { return openDocument != nullptr && !selectedNodes.empty(); };
-    auto const hasRecent = [this] { return !recent.paths().empty(); };
+    auto const hasRecent = [this] { return !recent.isEmpty(); };
     auto const add = [this](CommandId id, CommandTable::Command command) {
         commands->add(id, std::move(command), window.get());
     };
@@ -280,7 +279,7 @@ void ViewerSession::State::askForExport()
         filter += upper + L" (*." + extension + L")|*." + extension + L"|";
     }
     auto const info = orv::recordOf<orvsg::SCInfo>(openDocument);
-    auto const name = std::filesystem::path(info->file()).stem().wstring() + L"." + extensions.front();
+    auto const name = orv::FilePath(info->file()).getFName() + L"." + extensions.front();
     CFileDialog dialog(FALSE, extensions.front().c_str(), name.c_str(), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
                        (filter + L"|").c_str());
     if (dialog.DoModal() == IDOK) {
@@ -291,7 +290,7 @@ void ViewerSession::State::askForExport()
 void ViewerSession::State::askForPicture()
 {
     auto const info = orv::recordOf<orvsg::SCInfo>(openDocument);
-    auto const name = std::filesystem::path(info->file()).stem().wstring() + L".png";
+    auto const name = orv::FilePath(info->file()).getFName() + L".png";
     CFileDialog dialog(FALSE, L"png", name.c_str(), OFN_HIDEREADONLY | OFN_OVERWRITEPROMPT,
                        L"PNG (*.png)|*.png|JPEG (*.jpg)|*.jpg||");
     if (dialog.DoModal() == IDOK) {

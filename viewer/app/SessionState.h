@@ -16,6 +16,7 @@
 #include "viewer/plugins/SideBar.h"
 #include "viewer/scene/SceneDisplay.h"
 
+#include <QFileSystemWatcher>
 #include <QImage>
 #include <QTimer>
 
@@ -67,6 +68,7 @@ struct ViewerSession::State final : CommandContext {
     std::wstring pluginProblems; ///< sentences, each after a blank; empty once they were said with a model
     ViewerPreferences preferences;
     RecentFiles recent;
+    QFileSystemWatcher recentWatch; ///< on the folder of `recent`
     std::shared_ptr<Barrier> barrier;
     std::shared_ptr<ViewNotifier> notifier;
     std::shared_ptr<SceneDisplay> display; ///< null where nothing can be drawn

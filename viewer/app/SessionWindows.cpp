@@ -64,6 +64,15 @@ void ViewerSession::State::connectWindow()
         [this] { uncolourNodes(*this, selectedNodes); });
     transparencyMenu = makeTransparencyMenu(frame, [this](float part) { makeTransparent(*this, selectedNodes, part); });
     recentMenu = makeRecentMenu(frame, recent, [this](std::wstring const& path) { openModel(path); });
+    // Another viewer of the same user may open models meanwhile.
+    if (auto const folder = RecentFiles::folder(); !folder.empty()) {
+        recentWatch.addPath(QString::fromStdWString(folder));
+    }
+    QObject::connect(&recentWatch, &QFileSystemWatcher::directoryChanged, frame, [this] {
+        if (recent.refresh() && !openDocument) {
+            window->startPage().showRecent(recent);
+        }
+    });
     movePanel =
         new MovePanel(frame, [this](double x, double y, double z) { moveNodes(*this, selectedNodes, x, y, z); });
 

@@ -1,5 +1,6 @@
 #include "viewer/app/SessionState.h"
 
+#include "host/orv/FileUtils.h"
 #include "host/orv/IPlugin.h"
 #include "host/orv/SCApplication.h"
 #include "host/orvgl/SCRenderer.h"
@@ -19,7 +20,6 @@
 
 #include <QGuiApplication>
 
-#include <filesystem>
 #include <utility>
 
 // The pictures are in a static library, so they have to be asked for; the macro works outside of namespaces alone.
@@ -189,14 +189,14 @@ bool ViewerSession::State::openModel(std::wstring const& path)
         return false;
     }
     auto const info = orv::recordOf<orvsg::SCInfo>(result.document);
-    auto const name = std::filesystem::path(info->file()).filename().wstring();
+    auto const name = orv::FileUtils::getStatusFileName(info->file());
     closeModel();
     // What kept a plug-in out was said before there was a model; it is said once more where a user looks now.
     showStatus(L"\"" + name + L"\" is open." + std::exchange(pluginProblems, {}));
     window->showModel(QString::fromStdWString(name));
     showDocument(result.document);
-    recent.add(info->file());
-    savePreview();
+    savePreview(); // before the list names it
+    recent.add(openDocument);
     commands->refresh();
     ribbon->refresh();
     // The pane in front now belongs to another model: for it that is the same as being brought to the front.
@@ -266,7 +266,7 @@ bool ViewerSession::State::savePicture(std::wstring const& path, int width, int 
                                 : L"There is nothing to draw. Open a model first.");
         return false;
     }
-    auto const name = std::filesystem::path(path).filename().wstring();
+    auto const name = orv::FileUtils::getStatusFileName(path.c_str());
     bool const isSaved = image.save(QString::fromStdWString(path));
     showStatus(isSaved
                    ? L"\"" + name + L"\" was saved."
