@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <map>
 #include <set>
+#include <vector>
 
 namespace
 {
@@ -25,22 +26,37 @@ float channelOf(unsigned long color, unsigned shift)
     return static_cast<float>(static_cast<double>((color >> shift) & 0xFFU) / 255.0);
 }
 
+/// The packed colour of each entry of the list; of an entry without a node it means nothing.
+std::vector<unsigned long> colorsOf(orvsg::NodeList const& nodes, SceneRecords& records)
+{
+    std::vector<unsigned long> colors;
+    colors.reserve(nodes.size());
+    for (int const node : nodes) {
+        colors.push_back(orvsgutils::MaterialUtils::getNodeColor(node, records.resources, records.topology));
+    }
+    return colors;
+}
+
 void captureColors(SceneRecords& records, FeedObjects& objects)
 {
-    auto const& colored = records.runtime->coloredNodes;
+    orvsg::NodeList const& colored = records.runtime->coloredNodes;
     if (colored.size() != 0) {
         objects.colored.resize(records.topology->nodes.size());
     }
+    // Looked up all at once: the materials lie far apart, and a loop that does nothing else waits for many of them
+    // together.
+    std::vector<unsigned long> const colors = colorsOf(colored, records);
+    auto color = colors.begin();
     for (int const node : colored) {
+        unsigned long const packed = *color++;
         if (node == -1) {
             continue;
         }
-        unsigned long const color = orvsgutils::MaterialUtils::getNodeColor(node, records.resources, records.topology);
         if (records.topology->nodes.contains(node)) {
             objects.colored[static_cast<std::size_t>(node)] =
-                Vector3(channelOf(color, 0), channelOf(color, 8), channelOf(color, 16));
+                Vector3(channelOf(packed, 0), channelOf(packed, 8), channelOf(packed, 16));
         }
-        insertLast(objects.nodecolor, node, static_cast<int>(color));
+        insertLast(objects.nodecolor, node, static_cast<int>(packed));
     }
 }
 

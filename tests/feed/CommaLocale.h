@@ -1,11 +1,12 @@
 #pragma once
 
+#include "feed/MadeLocale.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <clocale>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -20,23 +21,11 @@ class CommaLocale
 public:
     CommaLocale()
     {
-        std::string name = (std::filesystem::temp_directory_path() / "orvanta-locale-XXXXXX").string();
-        if (::mkdtemp(name.data()) != nullptr) {
-            directory = name;
-            std::filesystem::create_directories(directory / "comma");
-            writeNumbers(directory / "comma" / "LC_NUMERIC");
-            setenv("LOCPATH", directory.c_str(), 1);
-            EXPECT_NE(std::setlocale(LC_NUMERIC, "comma"), nullptr);
-        }
+        writeNumbers(folder.file("comma", "LC_NUMERIC"));
+        EXPECT_NE(std::setlocale(LC_NUMERIC, "comma"), nullptr);
         EXPECT_STREQ(std::localeconv()->decimal_point, ",");
     }
-    ~CommaLocale()
-    {
-        std::setlocale(LC_NUMERIC, "C");
-        unsetenv("LOCPATH");
-        std::error_code error;
-        std::filesystem::remove_all(directory, error);
-    }
+    ~CommaLocale() { std::setlocale(LC_NUMERIC, "C"); }
     CommaLocale(CommaLocale const&) = delete;
     CommaLocale& operator=(CommaLocale const&) = delete;
 
@@ -58,7 +47,7 @@ private:
         stream << std::string("UTF-8\0", 6);
     }
 
-    std::filesystem::path directory;
+    LocaleFolder folder;
 };
 
 } // namespace orvtest

@@ -7,9 +7,11 @@
 
 #include <json/json.h>
 
+#include <climits>
 #include <exception>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 using testing::ElementsAre;
@@ -200,6 +202,106 @@ TEST(FeedReader, TakesTheNumberAtTheStartOfAKey)
                 ElementsAre(std::pair(2147483647, 1)));
 }
 
+TEST(FeedReader, TakesKeysInTheOrderOfTheirBytes)
+{
+    EXPECT_THAT(readObjects(R"({"nodecolor":{"1":7,"01":5,"+1":4," 1":3}})").nodecolor, ElementsAre(std::pair(1, 3)))
+        << "a blank stands before the others";
+    FeedObjects const objects = readObjects(R"({"nodetransform":{"1":[1],"01":[2],"001":[3]}})");
+    ASSERT_EQ(objects.nodetransform.size(), 1U);
+    EXPECT_EQ(objects.nodetransform.at(1)[0], 3.0F);
+}
+
+TEST(FeedReader, HoldsKeysToTheRangeOfInt)
+{
+    for (auto const& [key, node] : {std::pair("2147483647", INT_MAX), std::pair("2147483648", INT_MAX),
+                                    std::pair("9223372036854775808", INT_MAX), std::pair("-2147483648", INT_MIN),
+                                    std::pair("-2147483649", INT_MIN), std::pair("-99999999999999999999", INT_MIN)}) {
+        std::string const map = "{\"" + std::string(key) + "\":1}";
+        EXPECT_THAT(readObjects("{\"nodecolor\":" + map + "}").nodecolor, ElementsAre(std::pair(node, 1))) << key;
+    }
+    EXPECT_EQ(readObjects(R"({"nodetransform":{"4294967297":[1]}})").nodetransform.begin()->first, INT_MAX)
+        << "it doesn't wrap around to 1";
+}
+
+TEST(FeedReader, TakesNumbersUpToTheLimitsOfInt)
+{
+    EXPECT_THAT(readObjects(R"({"hidden":[2147483647,-2147483648,-2147483648.0]})").hidden,
+                ElementsAre(INT_MAX, INT_MIN, INT_MIN));
+}
+
+TEST(FeedReader, TakesFlagsNumbersAndNullForEachOther)
+{
+    EXPECT_THAT(readObjects(R"({"hidden":[true,false,null,-2.9,0.0]})").hidden, ElementsAre(1, 0, 0, -2, 0));
+    FeedAuthor const author = readOne(R"({"author":{"canDelete":2,"canEdit":0.5}})").author;
+    EXPECT_TRUE(author.canDelete);
+    EXPECT_TRUE(author.canEdit);
+    EXPECT_EQ(readOne(R"({"author":{"canDelete":0,"canEdit":null}})").author, FeedAuthor());
+    FeedViewport const view =
+        readOne(R"({"commentcontent":{"viewport":{"eye":[true,null,3],"zoom":true}}})").comment.viewport;
+    EXPECT_EQ(view, FeedViewport(Vector3(1, 0, 3), Vector3(), Vector3(), 1.0));
+}
+
+TEST(FeedReader, KeepsTheZoomAsADouble)
+{
+    EXPECT_EQ(readOne(R"({"commentcontent":{"viewport":{"zoom":0.1}}})").comment.viewport.zoom, 0.1);
+    EXPECT_EQ(readOne(R"({"commentcontent":{"viewport":{"zoom":1e300}}})").comment.viewport.zoom, 1e300);
+}
+
+TEST(FeedReader, TakesNullForAnEmptyDocument)
+{
+    EXPECT_EQ(readOne("null"), Feed());
+    EXPECT_EQ(readOne(R"({"author":null,"file":null,"action":null,"commentcontent":null})"), Feed());
+    EXPECT_EQ(readOne(R"({"commentcontent":{"viewport":null,"objects":null}})"), Feed());
+}
+
+TEST(FeedReader, TakesAScalarForTheContentAsItsText)
+{
+    EXPECT_THAT(read(LR"([{"Content":null}])"), IsEmpty()) << "the text of null is empty";
+    EXPECT_THROW(read(LR"([{"Content":5}])"), Json::Exception) << "a document, but none with members";
+    EXPECT_THROW(read(LR"([{"Content":false}])"), Json::Exception);
+}
+
+TEST(FeedReader, EndsTheContentAtItsFirstNul)
+{
+    EXPECT_THAT(read(LR"([{"Content":"{}\u0000junk"}])"), ElementsAre(Feed()));
+    EXPECT_THAT(read(LR"([{"Content":"{\u0000}"}])"), IsEmpty());
+}
+
+TEST(FeedReader, KnowsMembersByTheirExactNames)
+{
+    EXPECT_THAT(read(LR"([{"content":"{}","Thumbnail":"x"}])"), IsEmpty());
+    std::vector<Feed> const feeds = read(
+        LR"([{"Content":"{\"Source\":\"a\",\"Thumbnail\":\"a\",\"commentContent\":{\"id\":\"a\"},\"commentcontent\":{\"commenttype\":\"a\",\"objects\":{\"nodeColor\":{\"1\":1}}}}","thumbnail":"a"}])");
+    EXPECT_THAT(feeds, ElementsAre(Feed()));
+}
+
+TEST(FeedReader, LooksAtTheOuterThumbnailOnlyWhereItNeedsOne)
+{
+    EXPECT_EQ(read(LR"([{"Content":"{\"thumbnail\":\"x\"}","Thumbnail":{}}])")[0].thumbnail, L"x");
+    EXPECT_THROW(read(LR"([{"Content":"{}","Thumbnail":{}}])"), Json::Exception);
+}
+
+TEST(FeedReader, TakesTheLastOfTwoMembersWithOneName)
+{
+    EXPECT_EQ(readOne(R"({"source":"a","source":"b"})").source, L"b");
+}
+
+TEST(FeedReader, TakesCommentsAndTextBehindTheDocument)
+{
+    EXPECT_EQ(readOne("/* c */ {\"source\":\"a\"} // c\n").source, L"a");
+    EXPECT_EQ(readOne("{\"source\":\"a\"} behind").source, L"a");
+}
+
+TEST(FeedReader, DropsAnElementWithHalfACharacter)
+{
+    EXPECT_THAT(read(responseOf(R"({"source":"\ud83d"})")), IsEmpty());
+}
+
+TEST(FeedReader, DropsAnElementWithANumberBeyondDouble)
+{
+    EXPECT_THAT(read(responseOf(R"({"commentcontent":{"viewport":{"eye":[1e+9999,0,0]}}})")), IsEmpty());
+}
+
 TEST(FeedReader, CountsScalarsInPlaceOfListsAsEmpty)
 {
     FeedObjects const objects =
@@ -250,6 +352,21 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{R"({"commentcontent":{"objects":{"nodecolor":{"1":[]}}}})", "Value is not convertible to Int."},
         BadCase{R"({"author":{"canEdit":"yes"}})", "Value is not convertible to bool."},
         BadCase{R"({"commentcontent":{"objects":{"hidden":[-3000000000]}}})", "LargestInt out of Int range"},
+        BadCase{R"({"commentcontent":{"objects":{"hidden":[-2147483649]}}})", "LargestInt out of Int range"},
+        BadCase{R"({"commentcontent":{"objects":{"hidden":[2147483648]}}})", "LargestUInt out of Int range"},
+        BadCase{R"({"commentcontent":{"objects":{"hidden":[2147483648.0]}}})", "double out of Int range"},
+        BadCase{R"({"commentcontent":{"objects":{"transparent":[1,{}]}}})", "Value is not convertible to Int."},
+        BadCase{R"({"commentcontent":{"objects":{"colored":[[1],5]}}})", notAnArray},
+        BadCase{R"({"commentcontent":{"objects":{"colored":[["1"]]}}})", "Value is not convertible to double."},
+        BadCase{R"({"commentcontent":{"objects":{"nodetransform":{"1":{"a":1}}}}})", notAnArray},
+        BadCase{R"({"commentcontent":{"objects":{"nodetransform":{"1":5}}}})", notAnArray},
+        BadCase{R"({"commentcontent":{"objects":{"nodetransform":[[1],["x"]]}}})",
+                "Value is not convertible to double."},
+        BadCase{R"({"commentcontent":5})", notAnObject}, BadCase{R"({"action":true})", notAnObject},
+        BadCase{R"({"file":[]})", notAnObject}, BadCase{R"({"file":{"id":[]}})", notAText},
+        BadCase{R"({"author":{"canDelete":{}}})", "Value is not convertible to bool."},
+        BadCase{R"({"author":{"id":[],"canEdit":"x"},"file":5})", notAText},
+        BadCase{R"({"author":{"canEdit":"x"},"file":5})", "Value is not convertible to bool."},
         BadCase{R"({"commentcontent":{"objects":{"transparent":[10000000000000000000]}}})",
                 "LargestUInt out of Int range"},
         BadCase{R"({"commentcontent":{"objects":{"nodecolor":{"1":1e30}}}})", "double out of Int range"}));
@@ -294,6 +411,34 @@ TEST(DamagedFeed, IsReadOrRefusedWithoutHarm)
     }
     EXPECT_GT(refused, 0);
     EXPECT_LT(refused, 20000);
+}
+
+/// A document of that many levels around a number.
+std::string nested(int levels)
+{
+    std::string text = R"({"deep":)";
+    text += std::string(static_cast<std::size_t>(levels) - 1, '[');
+    text += '0';
+    text += std::string(static_cast<std::size_t>(levels) - 1, ']');
+    return text + "}";
+}
+
+TEST(DeepFeed, RaisesTheLibrarysExceptionBeyondAThousandLevels)
+{
+    constexpr char const* tooDeep = "Exceeded stackLimit in readValue().";
+    constexpr int most = 999; // and the number inside
+    EXPECT_EQ(read(responseOf(nested(most))).size(), 1U);
+    EXPECT_EQ(read(L"[{\"Content\":\"{}\",\"More\":" + orvtext::fromUtf8(nested(most - 2)) + L"}]").size(), 1U);
+    for (std::wstring const& response :
+         {responseOf(nested(most + 1)),
+          L"[{\"Content\":\"{}\",\"More\":" + orvtext::fromUtf8(nested(most - 1)) + L"}]"}) {
+        try {
+            read(response);
+            FAIL() << "no exception";
+        } catch (Json::RuntimeError const& error) {
+            EXPECT_STREQ(error.what(), tooDeep);
+        }
+    }
 }
 
 TEST(DamagedFeed, MayBeNestedDeeply)

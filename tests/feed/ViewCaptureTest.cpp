@@ -1,6 +1,7 @@
 #include "feed/ViewCapture.h"
 
 #include "feed/FeedWriter.h"
+#include "feed/ForeignTimes.h"
 #include "feed/Thumbnail.h"
 #include "host/orv/GUID.h"
 #include "host/orvsgutils/MaterialUtils.h"
@@ -13,10 +14,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <cstdlib>
 #include <ctime>
+#include <cwchar>
 #include <filesystem>
+#include <limits>
+#include <locale>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -292,6 +297,33 @@ TEST_F(ViewCapture, TakesTransparentNodesInTheirOrder)
     EXPECT_THAT(capture().comment.objects.transparent, ElementsAre(4, 1));
 }
 
+TEST_F(ViewCapture, RecordsNoDegreeOfTransparency)
+{
+    MaterialUtils::setNodeTransparency(4, 0.3F, scene.resources, scene.runtime, scene.topology);
+    Feed feed = capture();
+    MaterialUtils::setNodeTransparency(4, 0.9F, scene.resources, scene.runtime, scene.topology);
+    EXPECT_EQ(capture().comment.objects, feed.comment.objects);
+}
+
+TEST_F(ViewCapture, TakesColoursInTheOrderOfNodesWhateverTheOrderOfTheList)
+{
+    for (int const node : {5, 1, 4}) {
+        MaterialUtils::setNodeColor(node, 0x010203, scene.resources, scene.runtime, scene.topology);
+    }
+    FeedObjects const objects = capture().comment.objects;
+    EXPECT_THAT(objects.nodecolor, ElementsAre(std::pair(1, 0x010203), std::pair(4, 0x010203), std::pair(5, 0x010203)));
+    EXPECT_EQ(objects.colored[5], objects.colored[1]);
+}
+
+TEST_F(ViewCapture, TakesADamagedPlacementAsItStands)
+{
+    float const nan = std::numeric_limits<float>::quiet_NaN();
+    scene.moveTo(4, nan, 0, 0);
+    FeedObjects const objects = capture().comment.objects;
+    ASSERT_TRUE(objects.nodetransform.contains(4));
+    EXPECT_TRUE(std::isnan(objects.nodetransform.at(4)[12]));
+}
+
 TEST_F(ViewCapture, TakesHiddenNodesAscending)
 {
     scene.runtime->visibility[5] = false;
@@ -345,6 +377,36 @@ TEST(CommentTime, HasTheMonthInTheMinutesPlace)
     moment.tm_mon = 2;
     moment.tm_mday = 5;
     EXPECT_EQ(commentTimeText(moment), L"Mar 05, 2026 04:03 AM");
+}
+
+/// Writes nothing, where streams are left to the locale of the process.
+class SilentTimes : public std::time_put<wchar_t>
+{
+protected:
+    iter_type do_put(iter_type place, std::ios_base&, wchar_t, std::tm const*, char, char) const override
+    {
+        return place;
+    }
+};
+
+TEST(CommentTime, IsEnglishWhateverTheLocale)
+{
+    std::tm moment{};
+    moment.tm_year = 2026 - 1900;
+    moment.tm_mon = 10;
+    moment.tm_mday = 15;
+    moment.tm_hour = 16;
+    orvtest::ForeignTimes const foreign;
+    if (!foreign.isSet) {
+        GTEST_SKIP() << "skipped: this system has no compiled locale to change";
+    }
+    wchar_t text[32];
+    ASSERT_NE(std::wcsftime(text, 32, L"%b %p", &moment), 0U);
+    ASSERT_STREQ(text, L"Xyz QM") << "the locale is in force";
+    std::locale const before = std::locale::global(std::locale(std::locale::classic(), new SilentTimes));
+    std::wstring const written = commentTimeText(moment);
+    std::locale::global(before);
+    EXPECT_EQ(written, L"Nov 15, 2026 16:11 PM");
 }
 
 TEST(CommentTime, IsEmptyWhereItDoesNotFit)

@@ -14,6 +14,7 @@
 #include <limits>
 #include <memory>
 #include <set>
+#include <utility>
 #include <vector>
 
 using orvsgutils::MaterialUtils;
@@ -264,6 +265,75 @@ TEST_F(ViewReplay, TakesNodesOutsideTheModelWithoutHarm)
     objects.colored.assign(5000, Vector3(1, 0, 0));
     restore();
     EXPECT_EQ(materialOf(5).color, 0x0000FFU);
+}
+
+TEST_F(ViewReplay, DropsTheBitsAboveAPackedColour)
+{
+    feed.comment.objects.nodecolor = {{1, -1}, {3, 0x7F010203}};
+    restore();
+    EXPECT_EQ(materialOf(1).color, 0xFFFFFFU);
+    EXPECT_EQ(materialOf(3).color, 0x010203U);
+}
+
+TEST_F(ViewReplay, ListsWhatItColoursInTheOrderOfNodes)
+{
+    feed.comment.objects.nodecolor = {{5, 1}, {1, 1}, {4, 1}};
+    restore();
+    EXPECT_THAT(std::vector<int>(scene.runtime->coloredNodes.begin(), scene.runtime->coloredNodes.end()),
+                ElementsAre(1, 4, 5));
+}
+
+TEST_F(ViewReplay, TakesAZeroOfEitherSignForNoColour)
+{
+    feed.comment.objects.colored = {Vector3(-0.0F, 0.0F, -0.0F), Vector3(0.0F, 0.0F, 1e-30F)};
+    restore();
+    EXPECT_FALSE(materialOf(0).isColored);
+    EXPECT_TRUE(materialOf(1).isColored) << "not exactly zero: black";
+    EXPECT_EQ(materialOf(1).color, 0U);
+}
+
+TEST_F(ViewReplay, TakesAnyMatrixAsItStands)
+{
+    feed.comment.objects.nodetransform = {{2, Matrix4()}};
+    restore();
+    EXPECT_EQ(placementOf(2).matrix, Matrix4()) << "all zero, though it flattens the assembly";
+    EXPECT_TRUE(placementOf(2).isSet);
+}
+
+TEST_F(ViewReplay, LeavesTheRecordAlone)
+{
+    feed.comment.objects.hidden = {4, 1, 4};
+    feed.comment.objects.nodecolor = {{1, 5}};
+    Feed const before = feed;
+    restore();
+    EXPECT_EQ(feed, before);
+}
+
+/// Keeps the keys that it is asked for.
+class ListeningDocument final : public orv::IDocument
+{
+public:
+    explicit ListeningDocument(std::shared_ptr<orv::IDocument> records) : source(std::move(records)) {}
+    std::shared_ptr<orvsg::Schema> getSchema(short const& key) override
+    {
+        keys.push_back(key);
+        return source->getSchema(key);
+    }
+
+    std::vector<short> keys;
+
+private:
+    std::shared_ptr<orv::IDocument> source;
+};
+
+TEST_F(ViewReplay, AsksForTheRecordsInTheirOrder)
+{
+    auto const document = std::make_shared<ListeningDocument>(scene.document);
+    restoreView(document, feed);
+    EXPECT_THAT(document->keys, ElementsAre(orvsg::SCSceneRes::key, orvsg::SCSceneTopo::key, orvsg::SCPmi::key,
+                                            orvsg::SCSceneRT::key, orvsg::SCInfo::key, orvgl::SCRenderer::key,
+                                            orv::SCApplication::key, orvsg::SCBom::BOM, orv::SCApplication::key))
+        << "the last one for the hint";
 }
 
 TEST_F(ViewReplay, TellsAllViewsAtItsEnd)

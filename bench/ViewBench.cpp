@@ -1,0 +1,97 @@
+// What the capture of a view without its picture, and its replay without drawing, cost beside loops by hand over plain
+// arrays, in the same run. Ends non-zero where an aim is missed: build/release/bin/bench_view
+
+#include "bench/Aims.h"
+#include "bench/Pair.h"
+#include "bench/PlainView.h"
+#include "feed/SceneCapture.h"
+#include "feed/ViewReplay.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+constexpr double captureLimit = 2.0;
+constexpr double replayLimit = 1.5;
+
+/// One scene twice, in its records and in plain arrays, in the state of a view under review.
+struct Scene {
+    explicit Scene(int nodes) : records(nodes, 20261120)
+    {
+        records.disturb();
+        plain = std::make_unique<orvbench::PlainView>(records);
+        SceneRecords found(records.document);
+        feed.comment.objects = captureObjects(found);
+        feed.comment.objects.colored.clear(); // no record brings them along
+        feed.comment.viewport = captureViewport(found);
+    }
+
+    orvtest::TreeScene records;
+    std::unique_ptr<orvbench::PlainView> plain;
+    Feed feed;
+};
+
+bool captureByHand(Scene const& scene)
+{
+    auto const state = scene.plain->capture();
+    return state.hidden.size() == scene.feed.comment.objects.hidden.size() &&
+           state.nodetransform.size() == scene.feed.comment.objects.nodetransform.size();
+}
+
+bool capture(Scene const& scene)
+{
+    SceneRecords records(scene.records.document);
+    FeedObjects const objects = captureObjects(records);
+    FeedViewport const viewport = captureViewport(records);
+    return objects.hidden.size() == scene.feed.comment.objects.hidden.size() && viewport == scene.feed.comment.viewport;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    struct Case {
+        orvbench::Pair pair;
+        double limit;
+    };
+    std::vector<std::unique_ptr<Case>> cases;
+    benchmark::Initialize(&argc, argv);
+    auto const add = [&cases](orvbench::Pair pair, double limit, int iterations) {
+        cases.push_back(std::make_unique<Case>(Case{std::move(pair), limit}));
+        orvbench::Pair& added = cases.back()->pair;
+        benchmark::RegisterBenchmark(added.title().c_str(), [&added](benchmark::State& state) { added.run(state); })
+            ->UseManualTime()
+            ->Unit(benchmark::kMicrosecond)
+            ->Iterations(iterations);
+    };
+    for (int const nodes : {1000, 100000, 1000000}) {
+        auto const scene = std::make_shared<Scene>(nodes);
+        int const iterations = std::clamp(10000000 / nodes, 15, 1000);
+        add({"Capture/" + std::to_string(nodes), [=] { return captureByHand(*scene); },
+             [=] { return capture(*scene); }},
+            captureLimit, iterations);
+        auto const byHand = [=] {
+            scene->plain->replay(scene->feed);
+            return true;
+        };
+        auto const own = [=] {
+            restoreView(scene->records.document, scene->feed);
+            return true;
+        };
+        add({"Replay/" + std::to_string(nodes), byHand, own}, replayLimit, iterations);
+    }
+    benchmark::RunSpecifiedBenchmarks();
+
+    orvbench::Aims aims;
+    for (auto const& each : cases) {
+        aims.expect(each->pair.title() + " did its work", each->pair.succeeded());
+        aims.expectUnder(each->pair.title() + ", times the same by hand", each->pair.ratio(), each->limit, "");
+    }
+    return aims.exitStatus();
+}
