@@ -161,6 +161,17 @@ TEST_F(CommandsOverHttp, AnEmptySessionFilePushesWithEmptyNames)
     EXPECT_EQ(texts().back(), narrow(129));
 }
 
+TEST_F(CommandsOverHttp, ASessionFileOfOneLineCountsAsASessionForTheCommands)
+{
+    std::ofstream(std::filesystem::path(SessionFile().path())) << "ann@example.com\n";
+    start();
+    EXPECT_TRUE(isEnabled(share));
+    server.expect("POST", "/api/UploadInput/", Answer::status(401));
+    command(push);
+    EXPECT_FALSE(server.last().hasHeader("Authorization"));
+    EXPECT_NE(server.last().body.find("name=\"username\"\r\n\r\nann@example.com\r\n"), std::string::npos);
+}
+
 // The file's empty first line empties the name; the second is never reached, so the token stays that of this run.
 TEST_F(CommandsOverHttp, APushAfterAFailedLogoutInTheSameRunKeepsTheToken)
 {

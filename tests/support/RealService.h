@@ -14,6 +14,7 @@ public:
     using RunningService::config;
     using RunningService::feed;
     using RunningService::get;
+    using RunningService::login;
     using RunningService::logText;
     using RunningService::outbox;
     using RunningService::push;

@@ -101,6 +101,7 @@ protected:
     AccountTest()
         : transportBefore(orvweb::setTransport(std::make_shared<orvweb::CurlTransport>(shortLimits()))),
           observerBefore(orvweb::setRequestObserver([this](orvweb::ObservedRequest const& call) {
+              busyCursors.push_back(orvplatform::waitCursorDepth());
               viewer->events.push_back(orvtext::toUtf8(call.record.tokens.at(0).at(0)) + " {" + sessionState() + "}");
           }))
     {
@@ -197,6 +198,7 @@ protected:
 
     static std::string twoLines() { return std::string("ann@example.com|") + tokenBytes + "|"; }
 
+    std::vector<int> busyCursors; ///< how many stood at each request
     std::shared_ptr<CourseApplication> viewer = std::make_shared<CourseApplication>();
     ScriptedHttpServer server;
 

@@ -59,6 +59,7 @@ TEST_F(LoginOverHttp, TakesItsWholeCourseInItsOrder)
                   "status gearbox.step " + narrow(117) + three, "progress 100", "progress off", "hint 41" + three}));
     EXPECT_EQ(exporter->paths.size(), 1U);
     EXPECT_FALSE(std::filesystem::exists(exporter->paths.at(0))) << "the copy that was sent goes";
+    EXPECT_EQ(busyCursors, (std::vector<int>{0, 0, 0, 0, 1})) << "for the push alone";
 }
 
 TEST_F(LoginOverHttp, SendsTheseBytes)
@@ -204,6 +205,24 @@ TEST_F(LoginOverHttp, CanBeTriedAnyNumberOfTimes)
               }),
               stillOpen);
     EXPECT_EQ(texts(), std::vector<std::string>(tries, narrow(131)));
+}
+
+TEST_F(LoginOverHttp, WorksInEveryLanguage)
+{
+    for (wchar_t const* const language : {L"en", L"fr", L"de", L"ja", L"ko", L"zh", L"es", L"pt"}) {
+        configure(language);
+        useService(server.wideUrl());
+        viewer->events.clear();
+        server.expect("POST", "/api/Login/", Answer::status(401));
+        expectLogin();
+        EXPECT_EQ(openLogin([](CloudLoginDlg& dialog) {
+                      signInAsAnn(dialog);
+                      EXPECT_TRUE(clickButton(dialog, loginButton));
+                  }),
+                  IDCANCEL);
+        EXPECT_EQ(texts(), (std::vector<std::string>{narrow(131), narrow(130)}));
+        EXPECT_EQ(hints().size(), 1U);
+    }
 }
 
 TEST_F(LoginOverHttp, LeavesACloudDirectoryThatHoldsOtherFiles)
