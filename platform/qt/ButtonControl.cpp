@@ -38,6 +38,27 @@ public:
     }
 };
 
+// A push button whose caption is drawn whole: where it is too long for one line it goes on, and where the lines are too
+// many their letters shrink.
+class PushButton final : public QPushButton
+{
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const FittedCaption caption = fittedCaption(*this);
+        option.text = caption.text;
+        option.fontMetrics = QFontMetrics(caption.font);
+        painter.setFont(caption.font);
+        painter.drawControl(QStyle::CE_PushButton, option);
+    }
+};
+
 class GroupBoxBehaviour final : public Behaviour
 {
 public:
@@ -52,11 +73,52 @@ void restyle(QWidget* widget)
     widget->update();
 }
 
+constexpr int smallestCaption = 9; // pixels of the font
+
+// The style draws lines but breaks none.
+QString brokenAtWords(const QString& text, const QFontMetrics& metrics, int width)
+{
+    const QStringList words = text.split(u' ');
+    QStringList lines{words.first()};
+    for (const QString& word : words.mid(1)) {
+        const QString longer = lines.last() + u' ' + word;
+        if (metrics.size(Qt::TextShowMnemonic, longer).width() <= width)
+            lines.last() = longer;
+        else
+            lines << word;
+    }
+    return lines.join(u'\n');
+}
+
 QPushButton* pushButton(HWND window)
 {
     return isLive(window) ? qobject_cast<QPushButton*>(window->widget) : nullptr;
 }
 } // namespace
+
+FittedCaption fittedCaption(const QPushButton& button)
+{
+    QStyleOptionButton option;
+    option.initFrom(&button);
+    option.text = button.text();
+    const QRect room = button.style()->subElementRect(QStyle::SE_PushButtonContents, &option, &button);
+    FittedCaption whole{button.text(), button.font()};
+    const auto fits = [room](const QFont& font, const QString& text) {
+        const QSize needed = QFontMetrics(font).size(Qt::TextShowMnemonic, text);
+        return needed.width() <= room.width() && needed.height() <= room.height();
+    };
+    // A picture leaves no room for a second line.
+    if (!button.icon().isNull() || whole.text.isEmpty() || fits(whole.font, whole.text))
+        return whole;
+    FittedCaption smaller = whole;
+    for (int pixels = QFontInfo(whole.font).pixelSize(); pixels >= smallestCaption; --pixels) {
+        smaller.font.setPixelSize(pixels);
+        smaller.text = brokenAtWords(whole.text, QFontMetrics(smaller.font), room.width());
+        if (fits(smaller.font, smaller.text))
+            return smaller;
+    }
+    return whole;
+}
 
 HWND makeButton(const CREATESTRUCTW& create, QWidget* parent)
 {
@@ -74,7 +136,7 @@ HWND makeButton(const CREATESTRUCTW& create, QWidget* parent)
     else if (type == BS_RADIOBUTTON || type == BS_AUTORADIOBUTTON)
         button = new QRadioButton(parent);
     else
-        button = new QPushButton(parent);
+        button = new PushButton(parent);
     HWND window = attachHandle(button, L"Button", std::make_unique<ButtonBehaviour>());
     if (type == BS_DEFPUSHBUTTON)
         button->setProperty("primary", true);

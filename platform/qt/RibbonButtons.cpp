@@ -131,6 +131,19 @@ void RibbonToolButton::paintEvent(QPaintEvent*)
         drawMenuMark(painter, QPointF(width() - 7, height() / 2.0));
 }
 
+void RibbonToolButton::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        if (!event->isAutoRepeat())
+            menu() ? showMenu() : click();
+    } else if (key == Qt::Key_Escape && onLeave) {
+        onLeave();
+    } else {
+        QToolButton::keyPressEvent(event);
+    }
+}
+
 RibbonGroup::RibbonGroup(const RibbonPanel& source, QWidget* parent)
     : QWidget(parent), keepsLarge(source.keepsLarge), name(source.name)
 {

@@ -24,9 +24,11 @@ public:
     void showAs(RibbonLevel wanted);
 
     const UINT id;
+    std::function<void()> onLeave; // Escape
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override; // Enter does what the space bar does
 
 private:
     QSize pictureSize(RibbonLevel of) const;

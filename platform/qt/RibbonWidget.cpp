@@ -143,6 +143,9 @@ public:
             if (onPage && index >= 0)
                 guarded([this, index] { onPage(index); });
         });
+        // F10 goes into the ribbon, as into a menu bar, and Escape back to where the user was.
+        auto* enter = new QShortcut(QKeySequence(Qt::Key_F10), this);
+        connect(enter, &QShortcut::activated, this, [this] { takeFocus(); });
         // The queries run while the program is otherwise idle.
         idle.setInterval(200);
         connect(&idle, &QTimer::timeout, this, [this] { update(); });
@@ -243,9 +246,24 @@ private:
         own.setColor(QPalette::Window, theme().surface);
         setPalette(own);
     }
+    void takeFocus()
+    {
+        const bool isInside = QApplication::focusWidget() && isAncestorOf(QApplication::focusWidget());
+        if (!isInside)
+            before = QApplication::focusWidget();
+        for (RibbonToolButton* button : buttons)
+            if (button->isEnabled() && button->isVisible())
+                return button->setFocus(Qt::ShortcutFocusReason);
+    }
+    void leave()
+    {
+        if (before)
+            before->setFocus(Qt::OtherFocusReason);
+    }
     void add(RibbonToolButton* button)
     {
         buttons.push_back(button);
+        button->onLeave = [this] { leave(); };
         connect(button, &QToolButton::clicked, this, [this, id = button->id] {
             HWND ribbon = existingHandle(this);
             if (hooks.onCommand)
@@ -257,6 +275,7 @@ private:
     }
 
     QTimer idle;
+    QPointer<QWidget> before; // had the focus
     bool changed = false;
 };
 

@@ -5,6 +5,7 @@
 
 #include <QtWidgets>
 
+#include <algorithm>
 #include <utility>
 
 namespace orvplatform
@@ -17,22 +18,36 @@ bool isPicture(DWORD style)
     return type == SS_BITMAP || type == SS_ICON;
 }
 
-// A label, or a picture that fills the control whatever its own size.
+// A label, or a picture that fills the control whatever its own size. Letters shrink a little where a text would be
+// cut: some labels have a place in pixels, at every resolution.
 class Label final : public QLabel
 {
 public:
     using QLabel::QLabel;
-    QImage picture;
+    QImage picture;           // an icon's
+    HBITMAP bitmap = nullptr; // the control's
 
 protected:
     void paintEvent(QPaintEvent* event) override
     {
-        QLabel::paintEvent(event);
-        if (picture.isNull())
+        const QFont fitted = fittedFont(*this);
+        if (fitted == font()) {
+            QLabel::paintEvent(event);
+        } else {
+            QPainter painter(this);
+            drawFrame(&painter);
+            painter.setFont(fitted);
+            style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()) | Qt::TextWordWrap, palette(),
+                                  isEnabled(), text(), foregroundRole());
+        }
+        if (picture.isNull() && !bitmap)
             return;
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(contentsRect(), picture);
+        if (picture.isNull())
+            painter.drawPixmap(contentsRect(), shownPicture(bitmap, contentsRect().size()));
+        else
+            painter.drawImage(contentsRect(), picture);
     }
 };
 
@@ -54,7 +69,8 @@ public:
         auto* label = static_cast<Label*>(window->widget);
         if (message == STM_SETIMAGE && wParam == IMAGE_BITMAP) {
             result = reinterpret_cast<LRESULT>(std::exchange(bitmap, reinterpret_cast<HBITMAP>(lParam)));
-            label->picture = imageOf(bitmap);
+            label->bitmap = bitmap;
+            label->picture = QImage();
             label->update();
             return true;
         }
@@ -81,6 +97,30 @@ private:
     HICON icon = nullptr;
 };
 } // namespace
+
+QFont fittedFont(const QLabel& label)
+{
+    const QRect room = label.contentsRect();
+    if (!label.wordWrap() || label.textFormat() != Qt::PlainText || label.text().isEmpty())
+        return label.font();
+    const auto fits = [&](const QFont& font) {
+        const QRect needed = QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, label.text());
+        return needed.width() <= room.width() && needed.height() <= room.height();
+    };
+    QFont font = label.font();
+    if (fits(font))
+        return font;
+    const int whole = QFontInfo(font).pixelSize();
+    // From small to large: where the smallest doesn't help, the text stays as it is.
+    QFont fitted = font;
+    for (int pixels = std::max(whole * 3 / 5, 9); pixels < whole; ++pixels) {
+        font.setPixelSize(pixels);
+        if (!fits(font))
+            break;
+        fitted = font;
+    }
+    return fitted;
+}
 
 HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent)
 {

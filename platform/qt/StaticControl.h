@@ -1,9 +1,10 @@
 #pragma once
 #include "winuser.h"
 
-#include <QtGlobal>
+#include <QFont>
 
 QT_BEGIN_NAMESPACE
+class QLabel;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -11,4 +12,8 @@ namespace orvplatform
 {
 // Labels and pictures, by style.
 HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent);
+
+// The font in which a label draws its text: its own, or a smaller one, by two fifths at most, where the text would be
+// cut.
+QFont fittedFont(const QLabel& label);
 } // namespace orvplatform

@@ -3,9 +3,15 @@
 #include "platform/qt/Native.h"
 #include "platform/qt/RibbonWidget.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenu>
+#include <QTest>
+#include <QTimer>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <algorithm>
 #include <set>
@@ -239,6 +245,115 @@ TEST_F(Ribbon, ScrollsARowThatIsTooLong)
     EXPECT_TRUE(waitFor([&] { return isInView(1); }));
     setWidth(3000);
     EXPECT_TRUE(isInView(1) && isInView(16));
+}
+
+TEST_F(Ribbon, ShowsToolTipsOnButtonsOfEitherSize)
+{
+    fillPanels();
+    auto* push = new CMFCRibbonButton(20, L"Push to cloud");
+    push->SetToolTipText(L"Sends the model");
+    category->AddPanel(L"Tips")->Add(push);
+    for (const int width : {3000, 300}) {
+        setWidth(width);
+        for (const UINT id : {1u, 20u}) {
+            QToolButton& each = button(id);
+            QHelpEvent help(QEvent::ToolTip, each.rect().center(), each.mapToGlobal(each.rect().center()));
+            QApplication::sendEvent(&each, &help);
+            EXPECT_EQ(QToolTip::text(), id == 20 ? "Sends the model" : each.text()) << width;
+            QToolTip::hideText();
+        }
+    }
+}
+
+TEST_F(Ribbon, WorksFromTheKeyboard)
+{
+    fillPanels();
+    setWidth(3000);
+    std::vector<UINT> commands;
+    orvplatform::setRibbonHooks(
+        ribbon, {[&](UINT id) { commands.push_back(id); }, [](UINT id) { return id != 1 && id != 3; }, {}, {}});
+    QWidget& window = *orvplatform::widgetOf(frame.m_hWnd);
+    QLineEdit view(&window);
+    view.show();
+    view.setFocus();
+    ASSERT_TRUE(waitFor([&] { return view.hasFocus(); }));
+    const auto press = [](int key) {
+        QWidget* focus = QApplication::focusWidget();
+        ASSERT_NE(focus, nullptr);
+        QTest::keyClick(focus, static_cast<Qt::Key>(key));
+        processEvents();
+    };
+    press(Qt::Key_F10);
+    EXPECT_TRUE(button(2).hasFocus()) << "the first that is enabled";
+    press(Qt::Key_Return);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(button(4).hasFocus());
+    press(Qt::Key_Space);
+    press(Qt::Key_Right);
+    EXPECT_TRUE(button(5).hasFocus());
+    press(Qt::Key_Left);
+    press(Qt::Key_Enter);
+    EXPECT_EQ(commands, (std::vector<UINT>{2, 4, 4}));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(view.hasFocus());
+}
+
+TEST_F(Ribbon, OpensAMenuWithTheEnterKey)
+{
+    fillPanels();
+    setWidth(3000);
+    QMenu menu;
+    menu.addAction("Recent");
+    orvplatform::setRibbonHooks(
+        ribbon, {{}, [](UINT) { return true; }, {}, [&](UINT id) { return id == 2 ? &menu : nullptr; }});
+    button(2).setFocus();
+    bool wasOpen = false;
+    QTimer::singleShot(0, &menu, [&] {
+        wasOpen = menu.isVisible();
+        menu.close();
+    });
+    QTest::keyClick(&button(2), Qt::Key_Return);
+    EXPECT_TRUE(waitFor([&] { return wasOpen; }));
+}
+
+TEST_F(Ribbon, DrawsPicturesOfEachDisplayStepInTheirOwnSize)
+{
+    for (const int large : {32, 40, 48, 64}) {
+        SCOPED_TRACE(large);
+        CMFCRibbonBar own;
+        EXPECT_TRUE(own.Create(&frame));
+        CMFCRibbonCategory* page = own.AddCategory(L"Home", 0, 0, CSize(large / 2, large / 2), CSize(large, large));
+        QPixmap filled(large, large);
+        filled.fill(Qt::red);
+        QPixmap half(large / 2, large / 2);
+        half.fill(Qt::red);
+        const int first = orvplatform::addPicture(page->GetLargeImages(), filled);
+        const int small = orvplatform::addPicture(page->GetSmallImages(), half);
+        CMFCRibbonPanel* panel = page->AddPanel(L"Cloud");
+        for (UINT id = 1; id <= 3; ++id)
+            panel->Add(new CMFCRibbonButton(id, L"Push to cloud", small, first));
+        frame.ShowWindow(SW_SHOW);
+        int height = 0;
+        for (const int width : {900, 60}) {
+            own.MoveWindow(0, 0, width, 200);
+            orvplatform::refreshRibbon(own);
+            processEvents();
+            auto& each = *qobject_cast<QToolButton*>(orvplatform::ribbonButton(own.m_hWnd, 2));
+            const int side = width == 900 ? large : large / 2;
+            EXPECT_EQ(each.iconSize(), QSize(side, side));
+            // The picture stands whole inside its button, and the caption beside or below it.
+            const QImage drawn = each.grab().toImage();
+            int red = 0;
+            for (int y = 0; y < drawn.height(); ++y)
+                for (int x = 0; x < drawn.width(); ++x)
+                    red += drawn.pixelColor(x, y) == QColor(Qt::red);
+            EXPECT_EQ(red, side * side);
+            const int rowHeight = orvplatform::widgetOf(own.m_hWnd)->sizeHint().height();
+            EXPECT_TRUE(height == 0 || height == rowHeight);
+            height = rowHeight;
+        }
+        own.DestroyWindow();
+    }
 }
 
 TEST_F(Ribbon, RunsCommandsThroughTheProgram)

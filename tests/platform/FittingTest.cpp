@@ -1,0 +1,109 @@
+// Texts that are longer than their controls, whose places are the program's.
+
+#include "Form.h"
+
+#include "platform/qt/ButtonControl.h"
+#include "platform/qt/Native.h"
+#include "platform/qt/StaticControl.h"
+
+#include <QtWidgets>
+
+using namespace orvplatform::testing;
+
+namespace
+{
+class Fitting : public ::testing::Test
+{
+protected:
+    Fitting()
+    {
+        registerTestResources();
+        frame.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 600, 400), nullptr, 0);
+    }
+    QPushButton& makeButton(int width, int height, LPCWSTR text)
+    {
+        EXPECT_TRUE(button.Create(text, WS_CHILD | WS_VISIBLE, CRect(0, 0, width, height), &frame, 1));
+        return *qobject_cast<QPushButton*>(orvplatform::widgetOf(button.m_hWnd));
+    }
+    QLabel& makeLabel(int width, int height, LPCWSTR text)
+    {
+        EXPECT_TRUE(label.Create(text, WS_CHILD | WS_VISIBLE, CRect(0, 60, width, 60 + height), &frame, 2));
+        return *qobject_cast<QLabel*>(orvplatform::widgetOf(label.m_hWnd));
+    }
+    // Where a control is drawn in something else than its background.
+    static QRect ink(QWidget& widget)
+    {
+        const QImage drawn = widget.grab().toImage();
+        QRect found;
+        for (int y = 3; y < drawn.height() - 3; ++y)
+            for (int x = 3; x < drawn.width() - 3; ++x)
+                if (drawn.pixel(x, y) != drawn.pixel(3, 3))
+                    found |= QRect(x, y, 1, 1);
+        return found;
+    }
+    CWnd frame;
+    CButton button;
+    CStatic label;
+};
+} // namespace
+
+TEST_F(Fitting, LeavesACaptionThatFitsAsItIs)
+{
+    const QPushButton& made = makeButton(220, 40, L"Login to Orvanta Cloud");
+    const auto caption = orvplatform::fittedCaption(made);
+    EXPECT_EQ(caption.text, made.text());
+    EXPECT_EQ(caption.font, made.font());
+}
+
+TEST_F(Fitting, BreaksALongCaptionBeforeItShrinks)
+{
+    const QPushButton& made = makeButton(120, 40, L"Login to Orvanta Cloud");
+    const auto caption = orvplatform::fittedCaption(made);
+    EXPECT_EQ(caption.text.count(u'\n'), 1);
+    EXPECT_EQ(QString(caption.text).replace(u'\n', u' '), made.text());
+    EXPECT_EQ(QFontInfo(caption.font).pixelSize(), QFontInfo(made.font()).pixelSize());
+}
+
+TEST_F(Fitting, ShrinksTheLettersOfALargeFont)
+{
+    QPushButton& made = makeButton(220, 40, L"Iniciar sesi\u00f3n en Orvanta Cloud");
+    QFont large = made.font();
+    large.setPixelSize(21);
+    made.setFont(large);
+    const auto caption = orvplatform::fittedCaption(made);
+    EXPECT_LT(QFontInfo(caption.font).pixelSize(), 21);
+    EXPECT_GE(QFontInfo(caption.font).pixelSize(), 12);
+    const QRect drawn = ink(made);
+    EXPECT_GT(drawn.left(), 3);
+    EXPECT_LT(drawn.right(), made.width() - 4);
+    EXPECT_GT(drawn.height(), 20) << "two lines";
+}
+
+TEST_F(Fitting, LeavesACaptionThatNothingHelps)
+{
+    const QPushButton& made = makeButton(30, 16, L"Login to Orvanta Cloud");
+    const auto caption = orvplatform::fittedCaption(made);
+    EXPECT_EQ(caption.text, made.text());
+    EXPECT_EQ(caption.font, made.font());
+}
+
+TEST_F(Fitting, ShrinksALabelThatWouldBeCut)
+{
+    QLabel& made = makeLabel(180, 15, L"Nov 15, 2026 16:11 PM");
+    EXPECT_EQ(orvplatform::fittedFont(made), made.font());
+    QFont large = made.font();
+    large.setPixelSize(18);
+    made.setFont(large);
+    const QFont fitted = orvplatform::fittedFont(made);
+    EXPECT_LT(QFontInfo(fitted).pixelSize(), 18);
+    EXPECT_GE(QFontInfo(fitted).pixelSize(), 18 * 3 / 5);
+    EXPECT_LE(QFontMetrics(fitted).horizontalAdvance(made.text()), 180);
+    EXPECT_TRUE(made.rect().adjusted(0, 0, -1, -1).contains(ink(made)));
+}
+
+TEST_F(Fitting, LeavesALabelThatNothingHelps)
+{
+    const QLabel& made =
+        makeLabel(60, 15, L"A text that goes on for far longer than any label of this width could show");
+    EXPECT_EQ(orvplatform::fittedFont(made), made.font());
+}
