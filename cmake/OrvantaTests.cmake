@@ -1,11 +1,13 @@
-# orv_add_suite(NAME <folder.Subject> SOURCES <file>... [LIBS <target>...] [DEPENDS <target>...] [XVFB] [TIMEOUT <seconds>])
+# orv_add_suite(NAME <folder.Subject> SOURCES <file>... [LIBS <target>...] [DEPENDS <target>...] [XVFB] [TIMEOUT <seconds>]
+#               [SHARDS <count>])
 #
 # Adds one GoogleTest program and one ctest entry of the same name. Suites run offscreen; XVFB gives a suite a virtual
-# display with OpenGL. DEPENDS names targets that the suite starts or loads at run time.
+# display with OpenGL. DEPENDS names targets that the suite starts or loads at run time. SHARDS runs the
+# tests in so many processes at once, for suites that do little but wait.
 find_package(GTest REQUIRED)
 
 function(orv_add_suite)
-  cmake_parse_arguments(SUITE "XVFB" "NAME;TIMEOUT" "SOURCES;LIBS;DEPENDS" ${ARGN})
+  cmake_parse_arguments(SUITE "XVFB" "NAME;TIMEOUT;SHARDS" "SOURCES;LIBS;DEPENDS" ${ARGN})
   if(NOT BUILD_TESTING)
     return()
   endif()
@@ -24,7 +26,11 @@ function(orv_add_suite)
       COMMAND ${CMAKE_SOURCE_DIR}/tests/with-display $<TARGET_FILE:${target}>)
     set(environment "LIBGL_ALWAYS_SOFTWARE=1;QT_QPA_PLATFORM=xcb")
   else()
-    add_test(NAME ${SUITE_NAME} COMMAND ${target})
+    if(SUITE_SHARDS)
+      add_test(NAME ${SUITE_NAME} COMMAND ${CMAKE_SOURCE_DIR}/tests/in-shards ${SUITE_SHARDS} $<TARGET_FILE:${target}>)
+    else()
+      add_test(NAME ${SUITE_NAME} COMMAND ${target})
+    endif()
     set(environment "QT_QPA_PLATFORM=offscreen")
   endif()
   if(NOT SUITE_TIMEOUT)

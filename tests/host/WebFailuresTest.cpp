@@ -112,6 +112,17 @@ TEST_F(WebFailures, ATrickleThatIsSlowButSteadyIsTaken)
     EXPECT_EQ(response.body, "12345678");
 }
 
+TEST_F(WebFailures, AHeaderThatStopsInTheMiddle)
+{
+    for (char const* const bytes :
+         {"HTTP/1.1 200 OK\r\n", "HTTP/1.1 200 OK\r\nContent-Le", "HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\n",
+          "HTTP/1.1 100 Continue\r\n\r\n", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}) {
+        EXPECT_EQ(answeredWith(Answer::raw(bytes)).code, ErrorCode::broken) << bytes;
+    }
+    EXPECT_EQ(answeredWith(Answer::raw("HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n\r\nwhole")).body, "whole");
+    EXPECT_EQ(answeredWith(Answer::raw("HTTP/1.1 200 OK\n\nwhole")).body, "whole");
+}
+
 TEST_F(WebFailures, ABodyThatStopsInTheMiddle)
 {
     expectFailure(answeredWith(Answer::cut("half of it", 20)), ErrorCode::broken, 200);
@@ -181,7 +192,9 @@ TEST_F(WebFailures, AServiceThatSpeaksNoTls)
 {
     std::string url = server.url();
     url.replace(0, 4, "https");
+    server.allowOtherBytes();
     EXPECT_EQ(get(url + "/a").code, ErrorCode::unreachable);
+    EXPECT_EQ(server.everything().find("secret"), std::string::npos);
 }
 
 TEST_F(WebFailures, AfterAFailureTheNextRequestWorks)

@@ -41,6 +41,10 @@ public:
     {
         host.reconfigure([&](orvhost::Settings& settings) { settings.language = code; });
     }
+    void setService(std::wstring const& url)
+    {
+        host.reconfigure([&](orvhost::Settings& settings) { settings.serviceUrl = url; });
+    }
     void setLibraries(std::filesystem::path const& directory)
     {
         host.reconfigure([&](orvhost::Settings& settings) { settings.libraryDirectory = directory.wstring(); });

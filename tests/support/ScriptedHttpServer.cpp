@@ -24,11 +24,12 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
-std::string head(int code, std::size_t length, std::string const& moreHeaders)
+constexpr std::size_t fillerBlock = 1 << 18;
+
+std::string const& fillerBytes()
 {
-    return "HTTP/1.1 " + std::to_string(code) +
-           " Scripted\r\nContent-Type: text/plain\r\nContent-Length: " + std::to_string(length) + "\r\n" + moreHeaders +
-           "\r\n";
+    static std::string const block(fillerBlock, 'x');
+    return block;
 }
 
 /// Reads the header of what came in; empty while it isn't whole.
@@ -44,14 +45,18 @@ std::optional<ReceivedRequest> parsedHead(std::string const& input, std::size_t&
     std::string line;
     std::getline(lines, line);
     std::istringstream(line) >> request.method >> request.target;
+    EXPECT_EQ(line, request.method + " " + request.target + " HTTP/1.1\r") << "no request line";
     while (std::getline(lines, line)) {
         auto const colon = line.find(": ");
         bool const isWhole = colon != std::string::npos && line.back() == '\r';
         EXPECT_TRUE(isWhole) << "a header line the server can't read: " << line;
         if (isWhole) {
-            request.headers.emplace_back(line.substr(0, colon), line.substr(colon + 2, line.size() - colon - 3));
+            std::string const name = line.substr(0, colon);
+            EXPECT_FALSE(request.hasHeader(name)) << "the header " << name << " came twice";
+            request.headers.emplace_back(name, line.substr(colon + 2, line.size() - colon - 3));
         }
     }
+    EXPECT_FALSE(request.hasHeader("Transfer-Encoding")) << "the service answers 411 to a body of unknown length";
     return request;
 }
 
@@ -79,68 +84,19 @@ bool ReceivedRequest::hasHeader(std::string const& name) const
                        [&](auto const& header) { return strcasecmp(header.first.c_str(), name.c_str()) == 0; });
 }
 
-Answer Answer::ok(std::string const& body, std::string const& moreHeaders)
-{
-    return status(200, body, moreHeaders);
-}
-
-Answer Answer::status(int code, std::string const& body, std::string const& moreHeaders)
-{
-    return raw(head(code, body.size(), moreHeaders) + body, false);
-}
-
-Answer Answer::redirect(std::string const& address)
-{
-    return status(302, "moved", "Location: " + address + "\r\n");
-}
-
-Answer Answer::silence()
-{
-    return {};
-}
-
-Answer Answer::hangUp()
-{
-    return raw("", true);
-}
-
-Answer Answer::cut(std::string const& body, std::size_t announced)
-{
-    return raw(head(200, announced, "") + body, true);
-}
-
-Answer Answer::trickle(std::string const& body, std::chrono::milliseconds gap)
-{
-    Answer answer = ok(body);
-    answer.interval = gap;
-    return answer;
-}
-
-Answer Answer::deaf()
-{
-    Answer answer;
-    answer.readsBody = false;
-    return answer;
-}
-
-Answer Answer::raw(std::string bytes, bool closes)
-{
-    Answer answer;
-    answer.bytes = std::move(bytes);
-    answer.closes = closes;
-    return answer;
-}
-
 struct ScriptedHttpServer::Connection {
     int socket = -1;
     int number = 0;
     std::string input;
     std::string output;
+    std::size_t filler = 0;
     bool closesAfterOutput = false;
     bool isDeaf = false;
     bool isOver = false;
     std::chrono::milliseconds interval{0};
     Clock::time_point nextByte;
+
+    bool hasOutput() const { return !output.empty() || filler > 0; }
 };
 
 ScriptedHttpServer::ScriptedHttpServer()
@@ -178,11 +134,40 @@ void ScriptedHttpServer::stop()
     char const signal = 'x';
     EXPECT_EQ(::write(wake[1], &signal, 1), 1);
     thread.join();
+    takeWhatIsLeft();
     ::close(listener);
     for (Connection const& connection : open) {
         ::close(connection.socket);
     }
     open.clear();
+}
+
+/// What came in while the thread was told to end counts like everything else.
+void ScriptedHttpServer::takeWhatIsLeft()
+{
+    for (std::size_t before = open.size() + 1; before != open.size();) {
+        before = open.size();
+        accept();
+    }
+    for (Connection& connection : open) {
+        if (!connection.isDeaf) {
+            receive(connection);
+        }
+        checkThatNothingIsLeft(connection);
+    }
+}
+
+void ScriptedHttpServer::checkThatNothingIsLeft(Connection const& connection) const
+{
+    std::lock_guard const lock(guard);
+    EXPECT_TRUE(connection.isDeaf || allowsOtherBytes || connection.input.empty())
+        << "bytes that are no whole request: " << connection.input;
+}
+
+void ScriptedHttpServer::allowOtherBytes()
+{
+    std::lock_guard const lock(guard);
+    allowsOtherBytes = true;
 }
 
 std::string ScriptedHttpServer::url() const
@@ -224,6 +209,12 @@ int ScriptedHttpServer::connections() const
     return accepted;
 }
 
+std::string ScriptedHttpServer::everything() const
+{
+    std::lock_guard const lock(guard);
+    return bytes;
+}
+
 void ScriptedHttpServer::run()
 {
     for (;;) {
@@ -231,9 +222,9 @@ void ScriptedHttpServer::run()
         int timeout = -1;
         for (Connection const& connection : open) {
             short events = connection.isDeaf ? 0 : POLLIN;
-            if (!connection.output.empty() && connection.interval.count() == 0) {
+            if (connection.hasOutput() && connection.interval.count() == 0) {
                 events = static_cast<short>(events | POLLOUT);
-            } else if (!connection.output.empty()) {
+            } else if (connection.hasOutput()) {
                 auto const left =
                     std::chrono::duration_cast<std::chrono::milliseconds>(connection.nextByte - Clock::now()).count();
                 int const due = static_cast<int>(std::max<long>(left, 0)) + 1;
@@ -250,8 +241,9 @@ void ScriptedHttpServer::run()
             }
             transmit(open[i]);
         }
-        std::erase_if(open, [](Connection const& connection) {
+        std::erase_if(open, [this](Connection const& connection) {
             if (connection.isOver) {
+                checkThatNothingIsLeft(connection);
                 ::close(connection.socket);
             }
             return connection.isOver;
@@ -283,19 +275,25 @@ void ScriptedHttpServer::receive(Connection& connection)
     char block[65536];
     ssize_t count = 1;
     while (!connection.isDeaf && (count = ::recv(connection.socket, block, sizeof block, 0)) > 0) {
-        connection.input.append(block, static_cast<std::size_t>(count));
-        answerWhatIsComplete(connection);
+        auto const size = static_cast<std::size_t>(count);
+        connection.input.append(block, size);
+        {
+            std::lock_guard const lock(guard);
+            bytes.append(block, size);
+        }
+        while (!connection.isDeaf && answerWhatIsComplete(connection)) {
+        }
     }
     bool const isHungUp = count == 0 || (count < 0 && errno != EAGAIN && errno != EWOULDBLOCK);
     connection.isOver = connection.isOver || isHungUp;
 }
 
-void ScriptedHttpServer::answerWhatIsComplete(Connection& connection)
+bool ScriptedHttpServer::answerWhatIsComplete(Connection& connection)
 {
     std::size_t headLength = 0;
     auto request = parsedHead(connection.input, headLength);
     if (!request) {
-        return;
+        return false;
     }
     std::size_t const bodyLength = std::strtoul(request->header("Content-Length").c_str(), nullptr, 10);
     bool const isWhole = connection.input.size() >= headLength + bodyLength;
@@ -305,7 +303,7 @@ void ScriptedHttpServer::answerWhatIsComplete(Connection& connection)
         waitsForBody = expected.empty() || expected.front().answer.readsBody;
     }
     if (!isWhole && waitsForBody) {
-        return;
+        return false;
     }
     request->connection = connection.number;
     request->body = connection.input.substr(headLength, bodyLength);
@@ -313,35 +311,51 @@ void ScriptedHttpServer::answerWhatIsComplete(Connection& connection)
     connection.input.erase(0, headLength + bodyLength);
     Answer const answer = answerFor(*request);
     connection.output += answer.bytes;
+    connection.filler = answer.filler;
     connection.closesAfterOutput = answer.closes;
-    connection.isOver = answer.closes && connection.output.empty();
+    connection.isOver = answer.closes && !connection.hasOutput();
     connection.isDeaf = !answer.readsBody;
     connection.interval = answer.interval;
     connection.nextByte = Clock::now();
+    if (answer.isLast) {
+        ::close(listener);
+        listener = -1;
+        for (Connection& other : open) {
+            other.isOver = other.isOver || &other != &connection;
+        }
+    }
     if (answer.interval.count() > 0) {
         // The header goes out with the first byte.
         auto const body = connection.output.find("\r\n\r\n") + 4;
         ::send(connection.socket, connection.output.data(), body, MSG_NOSIGNAL);
         connection.output.erase(0, body);
     }
+    return true;
 }
 
 void ScriptedHttpServer::transmit(Connection& connection)
 {
-    while (!connection.output.empty() && !connection.isOver) {
+    while (connection.hasOutput() && !connection.isOver) {
         bool const isSlow = connection.interval.count() > 0;
         if (isSlow && Clock::now() < connection.nextByte) {
             return;
         }
-        ssize_t const count =
-            ::send(connection.socket, connection.output.data(), isSlow ? 1 : connection.output.size(), MSG_NOSIGNAL);
+        bool const isFiller = connection.output.empty();
+        std::string const& from = isFiller ? fillerBytes() : connection.output;
+        std::size_t const most = isFiller ? std::min(connection.filler, fillerBlock) : from.size();
+        ssize_t const count = ::send(connection.socket, from.data(), isSlow ? 1 : most, MSG_NOSIGNAL);
         if (count < 0) {
             connection.isOver = errno != EAGAIN && errno != EWOULDBLOCK;
             return;
         }
-        connection.output.erase(0, static_cast<std::size_t>(count));
+        auto const sent = static_cast<std::size_t>(count);
+        if (isFiller) {
+            connection.filler -= sent;
+        } else {
+            connection.output.erase(0, sent);
+        }
         connection.nextByte = Clock::now() + connection.interval;
-        connection.isOver = connection.output.empty() && connection.closesAfterOutput;
+        connection.isOver = !connection.hasOutput() && connection.closesAfterOutput;
     }
 }
 

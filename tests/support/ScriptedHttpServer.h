@@ -1,6 +1,7 @@
 #pragma once
 
-#include <chrono>
+#include "support/ScriptedAnswer.h"
+
 #include <cstddef>
 #include <deque>
 #include <mutex>
@@ -27,27 +28,9 @@ struct ReceivedRequest {
     bool hasHeader(std::string const& name) const;
 };
 
-/// What the server does with one request.
-struct Answer {
-    std::string bytes;                     ///< what it sends; empty for silence
-    bool closes = false;                   ///< hangs up after the last byte
-    bool readsBody = true;                 ///< false: answers after the header and reads no more
-    std::chrono::milliseconds interval{0}; ///< above zero: one byte at a time, so far apart
-
-    static Answer ok(std::string const& body, std::string const& moreHeaders = {});
-    static Answer status(int code, std::string const& body = {}, std::string const& moreHeaders = {});
-    static Answer redirect(std::string const& address);
-    static Answer silence();                                           ///< reads, says nothing, stays
-    static Answer hangUp();                                            ///< reads, says nothing, closes
-    static Answer cut(std::string const& body, std::size_t announced); ///< closes before the announced end
-    static Answer trickle(std::string const& body,
-                          std::chrono::milliseconds gap); ///< header at once, body byte by byte
-    static Answer deaf();                                 ///< stops reading after the header
-    static Answer raw(std::string bytes, bool closes = true);
-};
-
 /// A small HTTP server on a loopback port, with a thread of its own. It answers the requests that it was told to
-/// expect, in that order, and fails the test on any other and on expected ones that never came.
+/// expect, in that order, and fails the test on any other, on expected ones that never came, and on bytes that are no
+/// whole request.
 class ScriptedHttpServer
 {
 public:
@@ -62,12 +45,16 @@ public:
     unsigned short port() const { return listeningPort; }
 
     void expect(std::string method, std::string path, Answer answer);
+    /// From here on bytes that are no whole request are no failure: see everything().
+    void allowOtherBytes();
     /// Ends the listening and all connections: from here on the port refuses.
     void stop();
 
     std::vector<ReceivedRequest> requests() const;
     ReceivedRequest last() const;
     int connections() const; ///< made so far
+    /// Every byte that came in, over all connections. Of what an answer made the server leave unread nothing is here.
+    std::string everything() const;
 
 private:
     struct Expected {
@@ -80,7 +67,9 @@ private:
     void run();
     void accept();
     void receive(Connection& connection);
-    void answerWhatIsComplete(Connection& connection);
+    bool answerWhatIsComplete(Connection& connection); ///< false where no whole request is there
+    void takeWhatIsLeft();
+    void checkThatNothingIsLeft(Connection const& connection) const;
     void transmit(Connection& connection);
     Answer answerFor(ReceivedRequest const& request);
 
@@ -91,6 +80,8 @@ private:
     mutable std::mutex guard;     ///< of what follows
     std::deque<Expected> expected;
     std::vector<ReceivedRequest> received;
+    std::string bytes;
+    bool allowsOtherBytes = false;
     int accepted = 0;
     std::thread thread;
 };
