@@ -106,7 +106,7 @@ std::wstring thumbnailPath()
 
 std::wstring encodeFileBase64(std::wstring const& path)
 {
-    std::ifstream file(std::filesystem::path(path), std::ios::binary);
+    std::ifstream file(std::filesystem::path(orvtext::toUtf8(path)), std::ios::binary);
     std::ostringstream bytes;
     bytes << file.rdbuf();
     return orvtext::widenBytes(encodeBase64(bytes.str()));

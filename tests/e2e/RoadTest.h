@@ -23,7 +23,8 @@ protected:
     void startService();
     /// A viewer on the service (or on another address), its window on the screen.
     std::unique_ptr<orvtour::Driver> startViewer(QString const& url = {}, std::wstring const& language = L"en");
-    QString viewerData() const { return data.filePath("viewer"); }
+    /// A user's folder need not have a name in ASCII.
+    QString viewerData() const { return data.filePath(QString::fromUtf8("Zo\u00eb \u6b6f\u8eca")); }
     QString sessionFile() const { return viewerData() + "/Cloud/temp"; }
     static std::wstring sampleModel();
 

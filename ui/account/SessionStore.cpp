@@ -2,6 +2,7 @@
 
 #include "host/orv/FileUtils.h"
 #include "host/orvweb/Directories.h"
+#include "platform/text/Text.h"
 #include "service/RequestFile.h"
 #include "ui/account/ByteCodecvt.h"
 
@@ -15,6 +16,12 @@
 namespace
 {
 
+/// Not from the wide text, which the library would convert by the "C" locale: a user's name need not be ASCII.
+std::filesystem::path nativePath(SessionFile const& session)
+{
+    return orvtext::toUtf8(session.path());
+}
+
 /// Every reader tests whether the file opens, closes it, and opens it a second time for the lines. What the test found
 /// is the answer: a file that goes in between leaves the lines alone.
 bool readLines(SessionFile const& session, std::initializer_list<std::wstring*> lines)
@@ -24,7 +31,7 @@ bool readLines(SessionFile const& session, std::initializer_list<std::wstring*> 
     }
     std::wifstream file;
     file.imbue(byteLocale());
-    file.open(std::filesystem::path(session.path()));
+    file.open(nativePath(session));
     if (file.is_open()) {
         for (std::wstring* const line : lines) {
             std::getline(file, *line);
@@ -42,7 +49,7 @@ void writeLines(SessionFile const& session, std::initializer_list<std::wstring c
     file.imbue(byteLocale());
     // Unbuffered: what stands before a character that has no byte is in the file by then, and only once.
     file.rdbuf()->pubsetbuf(nullptr, 0);
-    file.open(std::filesystem::path(session.path()));
+    file.open(nativePath(session));
     for (std::wstring const* const line : lines) {
         file << *line << std::endl;
     }
@@ -59,7 +66,7 @@ SessionFile::SessionFile()
 bool SessionFile::canOpen() const
 {
     // A stream opens a directory as well, and waits at a pipe.
-    std::filesystem::path const file(filePath);
+    std::filesystem::path const file = nativePath(*this);
     std::error_code missing;
     return std::filesystem::is_regular_file(file, missing) && std::wifstream(file).is_open();
 }
