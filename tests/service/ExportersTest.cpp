@@ -121,9 +121,20 @@ TEST_F(Exporters, FindWhatTheyDependOnInTheDeferredDirectory)
     SetDllDirectoryW(nullptr);
 }
 
+TEST_F(Exporters, MayDependOnLibrariesOfTheDeferredDirectory)
+{
+    SetDllDirectoryW(nullptr);
+    std::wstring const alone = std::filesystem::path(ORV_TEST_LIBRARIES "/dependent/export/objwriter.so").wstring();
+    ASSERT_EQ(LoadLibraryW(alone.c_str()), nullptr) << "the system's loader doesn't find what it needs";
+    EXPECT_THAT(namesOf(*loadFrom("dependent")), ElementsAre(L"dependent"));
+    loadFrom("nothing here");
+    EXPECT_EQ(LoadLibraryW(alone.c_str()), nullptr) << "and nothing of it stayed behind";
+    SetDllDirectoryW(nullptr);
+}
+
 TEST_F(Exporters, ThatAreUnusableAreSkippedAndTheNextIsTried)
 {
-    // orvwriter lacks the entry points, 3dswriter isn't a library at all.
+    // orvwriter lacks both entry points, 3dswriter isn't a library at all, bomwriter lacks the destroying one.
     EXPECT_THAT(namesOf(*loadFrom("broken")), ElementsAre(L"stl"));
 }
 

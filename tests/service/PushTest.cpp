@@ -1,100 +1,29 @@
-#include "host/orv/FileUtils.h"
-#include "host/orv/Preferences.h"
-#include "host/orvexp/IDelayExporter.h"
-#include "platform/testing/Input.h"
-#include "platform/text/Text.h"
-#include "service/CloudHelper.h"
+#include "tests/service/PushFixture.h"
+
 #include "service/CloudSettings.h"
 #include "service/ModelFiles.h"
-#include "support/PluginEnvironment.h"
-#include "support/RecordingApplication.h"
 #include "support/RecordingTransport.h"
-#include "support/TestScene.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <memory>
-#include <stdexcept>
-#include <string>
-#include <vector>
-
-using orvtest::contentOf;
+using namespace orvtest;
 using orvweb::HttpRequest;
 using testing::ElementsAre;
-using testing::ElementsAreArray;
 using testing::IsEmpty;
 
 namespace
 {
 
 std::string const job = "7c9e6679-7425-40de-944b-e07fc1f90ae7";
-std::string const uploading = "Uploading file to " ORVANTA_SERVICE_HOST;
-std::string const uploaded = "  is successfully uploaded to " ORVANTA_SERVICE_HOST; // text 117 begins with a blank
-std::string const failed = "File upload has failed. Please try again.";
+std::string const& uploading = uploadingText;
+std::string const& uploaded = uploadedText;
+std::string const& failed = uploadFailedText;
 
-/// Writes "PRC of <model>" where it is told to.
-class FakeExporter final : public orvexp::IDelayExporter
-{
-public:
-    orvexp::Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& document,
-                        std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* status) override
-    {
-        paths.emplace_back(path);
-        lastDocument = document;
-        lastPreferences = preferences;
-        lastStatus = status;
-        if (throws) {
-            throw std::runtime_error("the exporter broke");
-        }
-        if (outcome == orvexp::Status::ok) {
-            orvtest::writeFile(path, "PRC");
-        }
-        return outcome;
-    }
-
-    std::vector<std::filesystem::path> paths;
-    std::shared_ptr<orv::IDocument> lastDocument;
-    std::shared_ptr<orv::Preferences> lastPreferences;
-    orv::IStatusManager* lastStatus = nullptr;
-    orvexp::Status outcome = orvexp::Status::ok;
-    bool throws = false;
-};
-
-class Push : public testing::Test
+class Push : public testing::Test, protected PushScene
 {
 protected:
-    static void SetUpTestSuite() { orvplatform::testing::ensureApplication(); }
-
-    Push()
-    {
-        user->userid = L"0f8fad5b-d9cb-469f-a165-70867728950e";
-        user->username = L"ada@example.com";
-        openModel(L"/models/gear.box.step");
-    }
-
-    void openModel(std::wstring const& path)
-    {
-        scene = std::make_unique<orvtest::TestScene>(path);
-        scene->application->application = application;
-    }
-
-    std::filesystem::path temporary(std::string const& name) const
-    {
-        return std::filesystem::path(orv::FileUtils::getTempPath()) / name;
-    }
-
-    std::wstring pushDirect() { return helper.pushDirect(scene->document, user); }
-    std::wstring pushWithPreview() { return helper.pushWithPreview(scene->document, application, user); }
-
-    orvtest::PluginEnvironment environment;
-    orvtest::RecordingTransport network;
-    std::shared_ptr<orvtest::RecordingApplication> application = std::make_shared<orvtest::RecordingApplication>();
-    std::shared_ptr<FakeExporter> exporter = std::make_shared<FakeExporter>();
-    std::shared_ptr<orvweb::UserInfo> user = std::make_shared<orvweb::UserInfo>();
-    std::unique_ptr<orvtest::TestScene> scene;
-    CloudHelper helper{exporter};
+    RecordingTransport network;
 };
 
 TEST_F(Push, IsDirectUnlessSomethingSaysOtherwise)
@@ -171,7 +100,7 @@ TEST_F(Push, DirectThatTheServiceRefusesReportsTheFailureAndCleansUp)
 TEST_F(Push, DirectGoesOnWhereTheExportFails)
 {
     exporter->outcome = orvexp::Status::noLibrary;
-    network.expectHandled("/api/UploadInput/", [](orvtest::SentRequest const& request) {
+    network.expectHandled("/api/UploadInput/", [](SentRequest const& request) {
         EXPECT_FALSE(request.hadFile);
         return orvweb::HttpResponse{orv::ErrorCode::unreadableFile, 0, ""};
     });
@@ -213,7 +142,6 @@ TEST_F(Push, DirectSurvivesAnExceptionOfTheUpload)
                 ElementsAre("status " + uploading, "progress on", "progress 20", "progress 50", "status " + uploading,
                             "status " + failed, "status " + failed, "progress 100", "progress off"));
     EXPECT_TRUE(std::filesystem::exists(temporary("gear.box.prc"))) << "the converted file stays";
-    std::filesystem::remove(temporary("gear.box.prc"));
 }
 
 TEST_F(Push, DirectKeepsTheJobIdOfAnUploadThatHadFinished)
@@ -238,7 +166,6 @@ TEST_F(Push, DirectLetsOtherExceptionsThrough)
 
     exporter->throws = true;
     EXPECT_THROW(pushDirect(), std::runtime_error) << "what happens before the upload isn't caught";
-    std::filesystem::remove(temporary("gear.box.prc"));
 }
 
 TEST_F(Push, DirectSharesACopyBetweenModelsOfOneName)
@@ -284,7 +211,7 @@ TEST_F(Push, SpeaksTheLanguageOfTheRun)
 TEST_F(Push, WithPreviewSendsTheNativeFileAndThenThePicture)
 {
     environment.setLibraries(ORV_TEST_LIBRARIES "/good");
-    orvtest::writeFile(environment.data / "Orvanta/RecentFile/asm_gear.box.bmp", "picture");
+    writeFile(environment.data / "Orvanta/RecentFile/asm_gear.box.bmp", "picture");
     network.expect("/api/Upload/", "native-job");
     network.expect("/api/Upload/", job);
     EXPECT_EQ(pushWithPreview(), orvtext::fromUtf8(job)) << "the answer to the picture stands for the whole";
@@ -317,7 +244,7 @@ TEST_F(Push, WithPreviewShowsItsCourse)
 
 TEST_F(Push, WithPreviewSpeaksThroughTheApplicationThatItIsGiven)
 {
-    auto const documents = std::make_shared<orvtest::RecordingApplication>();
+    auto const documents = std::make_shared<RecordingApplication>();
     scene->application->application = documents;
     network.expect("/api/Upload/", "native-job");
     network.expect("/api/Upload/", job);
@@ -349,7 +276,7 @@ TEST_F(Push, WithPreviewLoadsTheExportersAnew)
 TEST_F(Push, WithPreviewSendsThePictureOfAPart)
 {
     scene->info->documentKind = orvsg::SCInfo::part;
-    orvtest::writeFile(environment.data / "Orvanta/RecentFile/part_gear.box.bmp", "part's picture");
+    writeFile(environment.data / "Orvanta/RecentFile/part_gear.box.bmp", "part's picture");
     network.expect("/api/Upload/", "native-job");
     network.expect("/api/Upload/", job);
     pushWithPreview();
@@ -358,7 +285,7 @@ TEST_F(Push, WithPreviewSendsThePictureOfAPart)
 
 TEST_F(Push, WithPreviewTriesTheUploadWithoutAnExporter)
 {
-    network.expectHandled("/api/Upload/", [](orvtest::SentRequest const& request) {
+    network.expectHandled("/api/Upload/", [](SentRequest const& request) {
         EXPECT_FALSE(request.hadFile);
         return orvweb::HttpResponse{orv::ErrorCode::unreadableFile, 0, ""};
     });
@@ -386,7 +313,7 @@ TEST_F(Push, WithPreviewDoesNotTestForAFile)
 
 TEST(ModelFiles, LieWhereTheUploadsLookForThem)
 {
-    orvtest::PluginEnvironment const environment;
+    PluginEnvironment const environment;
     std::filesystem::path const temporary = orv::FileUtils::getTempPath();
     EXPECT_EQ(std::filesystem::path(prcFilePath(L"/m/part.step")), temporary / "part.prc");
     EXPECT_EQ(std::filesystem::path(exportFilePath(L"/m/part.step", L"orvanta")), temporary / "orvanta/part.orvanta");

@@ -7,14 +7,28 @@
 #include <memory>
 #include <string>
 
+#ifdef ORV_TEST_DEPENDENCY
+extern "C" int deferredDependency();
+#endif
+
 namespace
 {
 
 class Exporter final : public orvexp::IExporter
 {
 public:
-    wchar_t const* getName() override { return ORV_TEST_NAME; }
-    PluginType getType() override { return exporterPlugin; }
+    wchar_t const* getName() override
+    {
+#ifdef ORV_TEST_DEPENDENCY
+        return deferredDependency() == 11 ? ORV_TEST_NAME : L"not what it depends on";
+#else
+        return ORV_TEST_NAME;
+#endif
+    }
+    PluginType getType() override
+    {
+        return exporterPlugin;
+    }
     std::shared_ptr<orv::Preferences> loadPreferences(std::shared_ptr<orv::IPreferencesRegistry> /*registry*/) override
     {
         return nullptr;
@@ -30,7 +44,10 @@ public:
             << "native with " << (preferences ? preferences->entries().size() : 0) << " settings";
         return orvexp::Status::ok;
     }
-    bool takes(wchar_t const* path) override { return std::wstring(path).ends_with(ORV_TEST_EXTENSION); }
+    bool takes(wchar_t const* path) override
+    {
+        return std::wstring(path).ends_with(ORV_TEST_EXTENSION);
+    }
 };
 
 } // namespace
