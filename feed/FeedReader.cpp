@@ -6,19 +6,41 @@
 #include <algorithm>
 #include <climits>
 #include <cstdlib>
+#include <string_view>
 
 namespace
 {
 
-/// A value as UTF-8 text. A record's texts end at their first NUL.
-std::string narrowTextOf(Json::Value const& value)
+/// A value's text in UTF-8. Long ones, pictures and documents, are looked at where they stand.
+class Utf8Text
 {
-    return value.asString().c_str();
-}
+public:
+    explicit Utf8Text(Json::Value const& value)
+    {
+        char const* begin = nullptr;
+        char const* end = nullptr;
+        if (!value.getString(&begin, &end)) {
+            own = value.asString(); // of a number, a flag or null; throws for the rest
+            begin = own.data();
+            end = begin + own.size();
+        }
+        text = std::string_view(begin, static_cast<std::size_t>(end - begin));
+        text = text.substr(0, text.find('\0')); // a record's texts end at their first NUL
+    }
+    Utf8Text(Utf8Text const&) = delete;
+    Utf8Text& operator=(Utf8Text const&) = delete;
+
+    /// Valid as long as the value stays as it is.
+    std::string_view view() const { return text; }
+
+private:
+    std::string own;
+    std::string_view text;
+};
 
 std::wstring textOf(Json::Value const& value)
 {
-    return orvtext::fromUtf8(narrowTextOf(value));
+    return orvtext::fromUtf8(Utf8Text(value).view());
 }
 
 float floatOf(Json::Value const& value)
@@ -44,7 +66,8 @@ Matrix4 matrixOf(Json::Value& value)
 std::vector<int> nodesOf(Json::Value& value)
 {
     std::vector<int> nodes;
-    for (Json::ArrayIndex i = 0; i < value.size(); ++i) {
+    Json::ArrayIndex const count = value.size();
+    for (Json::ArrayIndex i = 0; i < count; ++i) {
         nodes.push_back(value[i].asInt());
     }
     return nodes;
@@ -123,7 +146,7 @@ std::vector<Feed> FeedReader::read(std::wstring const& response) const
     }
     for (Json::ArrayIndex i = 0; i < root.size(); ++i) {
         Json::Value document;
-        if (!parseJson(narrowTextOf(root[i]["Content"]), document)) {
+        if (!parseJson(Utf8Text(root[i]["Content"]).view(), document)) {
             continue;
         }
         Feed feed = recordOf(document);

@@ -155,11 +155,24 @@ void writeComment(JsonLine& line, FeedComment const& comment)
     line.endObject();
 }
 
+/// About how many characters the record takes.
+std::size_t lengthOf(Feed const& feed)
+{
+    constexpr std::size_t names = 1024;
+    constexpr std::size_t node = 8;
+    constexpr std::size_t color = 20;
+    constexpr std::size_t matrix = 16 * 21;
+    FeedObjects const& objects = feed.comment.objects;
+    return names + feed.thumbnail.size() + feed.comment.content.size() +
+           node * (objects.hidden.size() + objects.transparent.size()) + color * objects.nodecolor.size() +
+           matrix * objects.nodetransform.size();
+}
+
 } // namespace
 
 std::wstring FeedWriter::write(Feed const& feed) const
 {
-    JsonLine line;
+    JsonLine line(lengthOf(feed));
     line.beginObject();
     line.key("action");
     writeAction(line, feed.action);

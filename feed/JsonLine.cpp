@@ -3,7 +3,6 @@
 #include "platform/text/Text.h"
 #include "service/JsonText.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <utility>
@@ -11,10 +10,16 @@
 namespace
 {
 
-bool needsEscape(wchar_t character)
+/// Looks at every character, found or not: that goes many at a time, and pictures are long.
+bool needsEscape(std::wstring const& text)
 {
-    auto const code = static_cast<char32_t>(character);
-    return code < 0x20 || code > 0x7F || code == U'"' || code == U'\\';
+    unsigned found = 0;
+    for (wchar_t const character : text) {
+        auto const code = static_cast<unsigned>(character);
+        found |= static_cast<unsigned>(code - 0x20U > 0x5FU) | static_cast<unsigned>(code == '"') |
+                 static_cast<unsigned>(code == '\\');
+    }
+    return found != 0;
 }
 
 } // namespace
@@ -51,8 +56,7 @@ void JsonLine::value(double number)
 void JsonLine::value(std::wstring const& content)
 {
     separate();
-    // Counted rather than searched for: that goes many characters at a time, and pictures are long.
-    if (std::count_if(content.begin(), content.end(), needsEscape) == 0) {
+    if (!needsEscape(content)) {
         text += L'"';
         text += content;
         text += L'"';

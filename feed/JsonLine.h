@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,9 @@
 class JsonLine
 {
 public:
+    /// `room` is about how many characters the text will have.
+    explicit JsonLine(std::size_t room) { text.reserve(room); }
+
     void beginObject() { open(L'{'); }
     void endObject() { close(L'}'); }
     void beginArray() { open(L'['); }

@@ -1,6 +1,8 @@
 #include "platform/text/Text.h"
 
 #include <algorithm>
+#include <array>
+#include <type_traits>
 
 namespace orvtext
 {
@@ -61,51 +63,80 @@ char32_t readUtf8(std::string_view bytes, std::size_t& at)
 }
 } // namespace
 
-// Feeds carry pictures as text, megabytes of it, nearly all of it plain ASCII. So results are made at their full length
-// once and filled, which the compiler turns into whole vectors of characters.
+// Feeds carry pictures as text, megabytes of it, nearly all of it plain ASCII. So texts are converted block by block, and
+// a block of plain ASCII goes through as a whole, which the compiler turns into vectors of characters.
+namespace
+{
+constexpr std::size_t blockLength = 256;
+
+template <class Character>
+bool isPlain(std::basic_string_view<Character> block)
+{
+    std::make_unsigned_t<Character> bits = 0;
+    for (const Character character : block)
+        bits |= static_cast<std::make_unsigned_t<Character>>(character);
+    return bits < 0x80;
+}
+
+template <class To, class From>
+void appendPlain(std::basic_string<To>& text, std::basic_string_view<From> block)
+{
+    std::array<To, blockLength> converted;
+    std::transform(block.begin(), block.end(), converted.begin(), [](From c) { return static_cast<To>(c); });
+    text.append(converted.data(), block.size());
+}
+
+void appendUtf8(std::string& bytes, char32_t code)
+{
+    const auto put = [&bytes](char32_t byte) { bytes += static_cast<char>(byte); };
+    if (code < 0x80) {
+        put(code);
+    } else if (code < 0x800) {
+        put(0xC0 | code >> 6);
+        put(0x80 | (code & 0x3F));
+    } else if (code < 0x10000) {
+        put(0xE0 | code >> 12);
+        put(0x80 | (code >> 6 & 0x3F));
+        put(0x80 | (code & 0x3F));
+    } else {
+        put(0xF0 | code >> 18);
+        put(0x80 | (code >> 12 & 0x3F));
+        put(0x80 | (code >> 6 & 0x3F));
+        put(0x80 | (code & 0x3F));
+    }
+}
+} // namespace
 
 std::string toUtf8(std::wstring_view text)
 {
-    std::size_t length = 0;
-    for (const wchar_t character : text) {
-        const char32_t code = checked(character);
-        length += 1u + (code >= 0x80) + (code >= 0x800) + (code >= 0x10000);
-    }
-    std::string bytes(length, '\0');
-    if (length == text.size()) {
-        std::transform(text.begin(), text.end(), bytes.begin(), [](wchar_t c) { return static_cast<char>(c); });
-        return bytes;
-    }
-    char* end = bytes.data();
-    const auto put = [&end](char32_t byte) { *end++ = static_cast<char>(byte); };
-    for (const wchar_t character : text) {
-        const char32_t code = checked(character);
-        if (code < 0x80) {
-            put(code);
-        } else if (code < 0x800) {
-            put(0xC0 | code >> 6);
-            put(0x80 | (code & 0x3F));
-        } else if (code < 0x10000) {
-            put(0xE0 | code >> 12);
-            put(0x80 | (code >> 6 & 0x3F));
-            put(0x80 | (code & 0x3F));
-        } else {
-            put(0xF0 | code >> 18);
-            put(0x80 | (code >> 12 & 0x3F));
-            put(0x80 | (code >> 6 & 0x3F));
-            put(0x80 | (code & 0x3F));
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (; !text.empty(); text.remove_prefix(std::min(blockLength, text.size()))) {
+        const std::wstring_view block = text.substr(0, blockLength);
+        if (isPlain(block)) {
+            appendPlain(bytes, block);
+            continue;
         }
+        for (const wchar_t character : block)
+            appendUtf8(bytes, checked(character));
     }
     return bytes;
 }
 
 std::wstring fromUtf8(std::string_view bytes)
 {
-    std::wstring text(bytes.size(), L'\0'); // as long as it can get
-    wchar_t* end = text.data();
-    for (std::size_t at = 0; at < bytes.size();)
-        *end++ = static_cast<wchar_t>(readUtf8(bytes, at));
-    text.resize(static_cast<std::size_t>(end - text.data()));
+    std::wstring text;
+    text.reserve(bytes.size()); // as long as it can get
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::string_view block = bytes.substr(at, blockLength);
+        if (isPlain(block)) {
+            appendPlain(text, block);
+            at += block.size();
+            continue;
+        }
+        for (const std::size_t end = at + block.size(); at < end;)
+            text += static_cast<wchar_t>(readUtf8(bytes, at)); // its last character may reach into the next block
+    }
     return text;
 }
 

@@ -12,6 +12,28 @@ TEST(Text, GoesThroughUtf8AndBack)
     EXPECT_EQ(toUtf8(L"\U0001F600"), "\xF0\x9F\x98\x80");
 }
 
+TEST(Text, ConvertsAlikeWhereverACharacterStandsInALongText)
+{
+    const struct {
+        std::string bytes;
+        std::wstring text;
+    } cases[] = {{"\xC3\xA9", L"\u00E9"},
+                 {"\xE6\x97\xA5", L"\u65E5"},
+                 {"\xF0\x9F\x98\x80", L"\U0001F600"},
+                 {std::string(1, '\0'), std::wstring(1, L'\0')}};
+    for (std::size_t before = 0; before < 600; ++before) {
+        for (const auto& each : cases) {
+            const std::string bytes = std::string(before, 'a') + each.bytes + std::string(300, 'z');
+            const std::wstring text = std::wstring(before, L'a') + each.text + std::wstring(300, L'z');
+            ASSERT_EQ(fromUtf8(bytes), text) << before;
+            ASSERT_EQ(toUtf8(text), bytes) << before;
+        }
+        const std::wstring head(before, L'a');
+        ASSERT_EQ(fromUtf8(std::string(before, 'a') + "\xF0\x9F\x98"), head + L"\uFFFD") << before;
+        ASSERT_EQ(fromUtf8(std::string(before, 'a') + "\xE6z"), head + L"\uFFFDz") << before;
+    }
+}
+
 TEST(Text, ReplacesBrokenUtf8)
 {
     const struct {
