@@ -66,6 +66,25 @@ TEST_F(SessionTest, OpensAModelAndSaysSo)
     EXPECT_NE(link->application->getStatusManager(), nullptr);
 }
 
+TEST_F(SessionTest, OpensModelsWhateverTheirNames)
+{
+    start();
+    for (std::string const& name :
+         {std::string("gear box v2.final.obj"), std::string("Zahnr\u00e4der.obj"), std::string("\u6b6f\u8eca.obj"),
+          std::string("\U0001F600 & co.OBJ"), std::string(251, 'n') + ".obj"}) {
+        auto const model = folder.path / name;
+        std::filesystem::copy_file(cubes(), model);
+        ASSERT_TRUE(session->openModel(orvtext::fromUtf8(model.string()))) << status();
+        EXPECT_TRUE(status().starts_with("\"" + name + "\" is open.")) << status();
+        EXPECT_EQ(session->window().windowTitle().toStdString(), name + " - Orvanta");
+        EXPECT_FALSE(session->exportModel(orvtext::fromUtf8(model.string() + ".prc"))) << "there is no exporter here";
+        EXPECT_NE(status().find("prcdelaywriter"), std::string::npos) << status();
+        std::filesystem::remove(model);
+    }
+    EXPECT_FALSE(session->openModel(L"/nowhere/Zahnr\u00e4der.obj"));
+    EXPECT_EQ(status(), "\"Zahnr\u00e4der.obj\" doesn't exist. Check the path or choose another file.");
+}
+
 TEST_F(SessionTest, ABadFileLeavesTheOpenModelOpen)
 {
     open();

@@ -1,5 +1,8 @@
 #include "viewer/import/FileKind.h"
 
+#include "host/runtime/Files.h"
+#include "platform/text/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -172,7 +175,7 @@ bool readEnds(std::filesystem::path const& file, Ends& ends)
 
 FileKind kindOfExtension(std::wstring const& path)
 {
-    auto text = std::filesystem::path(path).extension().wstring();
+    auto text = orvtext::fromUtf8(orvhost::nativePath(path).extension().string());
     std::transform(text.begin(), text.end(), text.begin(),
                    [](wchar_t c) { return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))); });
     for (auto const& extension : extensions) {
@@ -185,8 +188,8 @@ FileKind kindOfExtension(std::wstring const& path)
 
 FileCheck checkFile(std::wstring const& path)
 {
-    std::filesystem::path const file(path);
-    auto const name = L"\"" + file.filename().wstring() + L"\"";
+    auto const file = orvhost::nativePath(path);
+    auto const name = L"\"" + orvtext::fromUtf8(file.filename().string()) + L"\"";
     std::error_code failure;
     auto const status = std::filesystem::status(file, failure);
     if (!std::filesystem::exists(status)) {

@@ -4,6 +4,8 @@
 #include "host/orvsg/SCBom.h"
 #include "host/orvsg/SCInfo.h"
 #include "host/orvsg/SCPmi.h"
+#include "host/runtime/Files.h"
+#include "platform/text/Text.h"
 #include "viewer/import/AssemblyWalker.h"
 #include "viewer/import/CrashGuard.h"
 #include "viewer/import/FileKind.h"
@@ -80,8 +82,8 @@ ImportResult failed(std::wstring const& name, wchar_t const* what)
 
 ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& progress)
 {
-    std::filesystem::path const file(path);
-    auto const name = file.filename().wstring();
+    auto const file = orvhost::nativePath(path);
+    auto const name = orvtext::fromUtf8(file.filename().string());
     Handle(ProgressBridge) const bridge = new ProgressBridge(progress);
     Message_ProgressScope whole(bridge->Start(), "Opening", 100);
 
@@ -96,7 +98,7 @@ ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& 
     if (!isRead) {
         return failed(name, damaged);
     }
-    auto records = walkAssembly(structured, file.stem().wstring(), whole.Next(50));
+    auto records = walkAssembly(structured, orvtext::fromUtf8(file.stem().string()), whole.Next(50));
     if (progress.stopRequested) {
         return {nullptr, L"Opening \"" + name + L"\" was stopped.", true};
     }
@@ -104,7 +106,8 @@ ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& 
         return failed(name, L"holds no part with surfaces. Export the model with its solids and open the new file.");
     }
     progress.percent = 100;
-    return {makeDocument(std::move(records), std::filesystem::absolute(file).lexically_normal().wstring()), {}, false};
+    auto const whereItLies = orvtext::fromUtf8(std::filesystem::absolute(file).lexically_normal().string());
+    return {makeDocument(std::move(records), whereItLies), {}, false};
 }
 
 } // namespace
@@ -113,7 +116,7 @@ ImportResult importModel(std::wstring const& path, ImportProgress& progress)
 {
     std::wstring name;
     try {
-        name = std::filesystem::path(path).filename().wstring();
+        name = orvtext::fromUtf8(orvhost::nativePath(path).filename().string());
         auto const check = checkFile(path);
         if (!check.error.empty()) {
             return {nullptr, check.error, false};
