@@ -16,30 +16,31 @@ HRESULT CImage::Load(IStream* stream)
             return E_FAIL;
         bytes.append(part, static_cast<qsizetype>(count));
     } while (count == sizeof part);
-    QImage image = orvplatform::decodePicture(bytes);
-    if (image.isNull())
-        return E_FAIL;
-    Attach(orvplatform::makeBitmap(std::move(image)));
-    return S_OK;
+    return attachEncoded(bytes);
 }
 
 HRESULT CImage::Load(LPCWSTR path)
 {
     QFile file(QString::fromWCharArray(path ? path : L""));
-    QImage image = file.open(QIODevice::ReadOnly) ? orvplatform::decodePicture(file.readAll()) : QImage();
-    if (image.isNull())
+    return file.open(QIODevice::ReadOnly) ? attachEncoded(file.readAll()) : E_FAIL;
+}
+
+HRESULT CImage::attachEncoded(const QByteArray& bytes)
+{
+    HBITMAP made = orvplatform::makeBitmap(bytes);
+    if (!made)
         return E_FAIL;
-    Attach(orvplatform::makeBitmap(std::move(image)));
+    Attach(made);
     return S_OK;
 }
 
 int CImage::GetWidth() const
 {
-    return orvplatform::imageOf(bitmap).width();
+    return orvplatform::sizeOf(bitmap).width();
 }
 int CImage::GetHeight() const
 {
-    return orvplatform::imageOf(bitmap).height();
+    return orvplatform::sizeOf(bitmap).height();
 }
 
 void CImage::Attach(HBITMAP other)

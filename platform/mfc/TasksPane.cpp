@@ -3,6 +3,8 @@
 #include "platform/qt/TasksWidget.h"
 
 #include <algorithm>
+#include <unordered_set>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CDockablePane, CWnd)
 IMPLEMENT_DYNAMIC(CMFCTasksPane, CDockablePane)
@@ -10,6 +12,7 @@ IMPLEMENT_DYNAMIC(CMFCTasksPane, CDockablePane)
 BEGIN_MESSAGE_MAP(CMFCTasksPane, CDockablePane)
 ON_WM_CREATE()
 ON_WM_SIZE()
+ON_MESSAGE(WM_SETREDRAW, &CMFCTasksPane::OnSetRedraw)
 END_MESSAGE_MAP()
 
 BOOL CDockablePane::Create(LPCWSTR caption, CWnd* parent, const RECT& rect, BOOL, UINT id, DWORD style, DWORD,
@@ -91,13 +94,15 @@ void CMFCTasksPane::RemoveGroup(int group)
         return;
     // Taken out first: the end of a window may come back here.
     const auto place = groups.begin() + group;
-    const std::unique_ptr<CMFCTasksPaneTaskGroup> removed = std::move(*place);
+    const std::unique_ptr<CMFCTasksPaneTaskGroup> taken = std::move(*place);
     groups.erase(place);
-    for (const CMFCTasksPaneTask& task : removed->m_lstTasks) {
+    for (const CMFCTasksPaneTask& task : taken->m_lstTasks) {
         if (task.m_bAutoDestroyWindow)
             ::DestroyWindow(task.m_hwndTask);
-        else
+        else if (redraws)
             ::ShowWindow(task.m_hwndTask, SW_HIDE);
+        else
+            removed.push_back(task.m_hwndTask); // it may be back in a group before anybody sees it go
     }
     RecalcLayout();
 }
@@ -173,8 +178,26 @@ CMFCTasksPaneTaskGroup* CMFCTasksPane::GetTaskGroup(int group) const
     return group >= 0 && group < GetGroupCount() ? groups[static_cast<std::size_t>(group)].get() : nullptr;
 }
 
+LRESULT CMFCTasksPane::OnSetRedraw(WPARAM redraw, LPARAM)
+{
+    redraws = redraw != 0;
+    if (!redraws)
+        return Default();
+    std::unordered_set<HWND> placed;
+    for (const auto& group : groups)
+        for (const CMFCTasksPaneTask& task : group->m_lstTasks)
+            placed.insert(task.m_hwndTask);
+    for (HWND window : std::exchange(removed, {}))
+        if (!placed.contains(window))
+            ::ShowWindow(window, SW_HIDE);
+    RecalcLayout(FALSE);
+    return Default();
+}
+
 void CMFCTasksPane::RecalcLayout(BOOL redraw)
 {
+    if (!redraws)
+        return;
     orvplatform::layoutTasks(m_hWnd);
     if (redraw)
         Invalidate();

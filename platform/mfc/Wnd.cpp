@@ -161,8 +161,8 @@ BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style,
 BOOL CWnd::CreateEx(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style, int x, int y, int width, int height,
                     HWND parent, HMENU idOrMenu, LPVOID parameter)
 {
-    CREATESTRUCTW create{parameter, AfxGetInstanceHandle(),   idOrMenu, parent,    height, width, x,
-                         y,         static_cast<LONG>(style), name,     className, exStyle};
+    CREATESTRUCTW create{parameter, AfxGetInstanceHandle(),   idOrMenu, parent,    height, width, y,
+                         x,         static_cast<LONG>(style), name,     className, exStyle};
     if (m_hWnd || !PreCreateWindow(create)) {
         PostNcDestroy();
         return FALSE;

@@ -194,6 +194,10 @@ BOOL CWnd::ModifyStyle(DWORD remove, DWORD add, UINT)
     return style != earlier;
 }
 
+void CWnd::SetRedraw(BOOL redraw)
+{
+    SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw));
+}
 void CWnd::Invalidate(BOOL erase)
 {
     ::InvalidateRect(m_hWnd, nullptr, erase);

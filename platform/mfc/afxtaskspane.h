@@ -28,7 +28,8 @@ struct CMFCTasksPaneTaskGroup {
 
 // A vertically scrolling list of titled groups, below a caption strip of 20 pixels (40 from 120 DPI on). A group's
 // child window takes the group's width and a given height; children of the pane are made hidden and shown when they are
-// placed.
+// placed. While redrawing is off (SetRedraw), groups come and go without being laid out; all of it is made up for when it
+// is on again.
 class CMFCTasksPane : public CDockablePane
 {
     DECLARE_DYNAMIC(CMFCTasksPane)
@@ -63,8 +64,11 @@ protected:
     LPCWSTR GetWindowClass() const override;
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg LRESULT OnSetRedraw(WPARAM redraw, LPARAM unused);
 
 private:
     std::vector<std::unique_ptr<CMFCTasksPaneTaskGroup>> groups;
     BOOL collapsible = TRUE;
+    bool redraws = true;
+    std::vector<HWND> removed; // windows of groups that went while redrawing is off
 };

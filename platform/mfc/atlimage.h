@@ -1,13 +1,16 @@
 #pragma once
-// A decoded picture.
+// A picture.
 
 #include "objidl.h"
 #include "wingdi.h"
 
 #include <string>
 
-// Owns its bitmap. Decoding takes the formats that the system knows; a picture whose sides or memory (64 MiB) are out
-// of bounds is refused.
+class QByteArray;
+
+// Owns its bitmap. Loading takes the formats that the system knows and reads the header, as far as that tells the size:
+// pixels are decoded when they are about to be seen. A picture whose sides or memory (64 MiB) are out of bounds is
+// refused.
 class CImage
 {
 public:
@@ -27,5 +30,7 @@ public:
     operator HBITMAP() const { return bitmap; }
 
 private:
+    HRESULT attachEncoded(const QByteArray& bytes);
+
     HBITMAP bitmap = nullptr;
 };

@@ -17,6 +17,21 @@ bool isInBounds(QSize size)
 }
 } // namespace
 
+QSize pictureSize(const QByteArray& bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    // The headers of other formats may tell less than comes.
+    if (const QByteArray format = reader.format(); format != "jpeg" && format != "png" && format != "bmp")
+        return decodePicture(bytes).size();
+    const QSize size = reader.size();
+    if (size.isEmpty() || !isInBounds(size))
+        return {0, 0};
+    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;
+}
+
 QImage decodePicture(const QByteArray& bytes)
 {
     QImageReader::setAllocationLimit(mebibytes);

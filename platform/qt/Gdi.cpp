@@ -85,11 +85,27 @@ void renewFonts(QWidget* root)
         renewFont(existingHandle(child));
 }
 
-HBITMAP makeBitmap(QImage image)
+namespace
 {
-    auto* bitmap = new HBITMAP__{std::move(image)};
+HBITMAP addBitmap(QImage image, const QByteArray& encoded, QSize size)
+{
+    static quint64 count = 0;
+    auto* bitmap = new HBITMAP__{std::move(image), encoded, size, ++count};
     bitmaps().insert(bitmap);
     return bitmap;
+}
+} // namespace
+
+HBITMAP makeBitmap(QImage image)
+{
+    const QSize size = image.size();
+    return addBitmap(std::move(image), {}, size);
+}
+
+HBITMAP makeBitmap(const QByteArray& encoded)
+{
+    const QSize size = pictureSize(encoded);
+    return size.isEmpty() ? nullptr : addBitmap({}, encoded, size);
 }
 
 HICON makeIcon(QImage image)
@@ -99,9 +115,33 @@ HICON makeIcon(QImage image)
     return icon;
 }
 
+QSize sizeOf(HBITMAP bitmap)
+{
+    return bitmaps().contains(bitmap) ? bitmap->size : QSize(0, 0);
+}
+
 QImage imageOf(HBITMAP bitmap)
 {
-    return bitmaps().contains(bitmap) ? bitmap->image : QImage();
+    if (!bitmaps().contains(bitmap))
+        return {};
+    return bitmap->encoded.isEmpty() ? bitmap->image : decodePicture(bitmap->encoded);
+}
+
+QPixmap shownPicture(HBITMAP bitmap, QSize room)
+{
+    if (!bitmaps().contains(bitmap))
+        return {};
+    const QString key = QStringLiteral("orvanta-%1-%2x%3").arg(bitmap->number).arg(room.width()).arg(room.height());
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture))
+        return picture;
+    QImage image = imageOf(bitmap);
+    const QSize wanted = image.size().boundedTo(room);
+    if (!image.isNull() && wanted != image.size() && !wanted.isEmpty())
+        image = image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    picture = QPixmap::fromImage(image);
+    QPixmapCache::insert(key, picture);
+    return picture;
 }
 QImage imageOf(HICON icon)
 {
@@ -200,14 +240,12 @@ int GetObjectW(HGDIOBJ object, int size, LPVOID result)
     if (!result)
         return 0;
     if (bitmaps().contains(object) && size >= static_cast<int>(sizeof(BITMAP))) {
-        const QImage& image = static_cast<HBITMAP>(object)->image;
-        *static_cast<BITMAP*>(result) = {0,
-                                         image.width(),
-                                         image.height(),
-                                         static_cast<LONG>(image.bytesPerLine()),
-                                         1,
-                                         static_cast<WORD>(image.depth()),
-                                         nullptr};
+        const auto* bitmap = static_cast<HBITMAP>(object);
+        constexpr int encodedDepth = 32; // of what decodePicture gives
+        const int depth = bitmap->encoded.isEmpty() ? bitmap->image.depth() : encodedDepth;
+        const int line = (bitmap->size.width() * depth + 31) / 32 * 4;
+        *static_cast<BITMAP*>(result) = {
+            0, bitmap->size.width(), bitmap->size.height(), line, 1, static_cast<WORD>(depth), nullptr};
         return static_cast<int>(sizeof(BITMAP));
     }
     if (fonts().contains(object) && size >= static_cast<int>(sizeof(LOGFONTW))) {

@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QFont>
 #include <QImage>
+#include <QPixmap>
+#include <QSize>
 
 #include <vector>
 
@@ -18,8 +20,12 @@ struct HFONT__ {
     QFont font;
     bool shared = false; // the system's own: DeleteObject leaves it
 };
+// Its pixels, or the file's bytes that they are decoded from each time that they are asked for.
 struct HBITMAP__ {
     QImage image;
+    QByteArray encoded;
+    QSize size;
+    quint64 number = 0; // never given twice
 };
 struct HICON__ {
     QImage image;
@@ -48,13 +54,21 @@ void renewFont(HWND window);
 void renewFonts(QWidget* root);
 
 HBITMAP makeBitmap(QImage image);
+// A picture of which the header alone is read for now. Null where decodePicture would refuse it by its header.
+HBITMAP makeBitmap(const QByteArray& encoded);
 HICON makeIcon(QImage image);
-QImage imageOf(HBITMAP bitmap); // empty for a bad handle
+QSize sizeOf(HBITMAP bitmap);   // (0, 0) for a bad handle
+QImage imageOf(HBITMAP bitmap); // empty for a bad handle, and for a picture that breaks off behind its header
+// For drawing in that room: no larger than needed there, and kept among those that were drawn last.
+QPixmap shownPicture(HBITMAP bitmap, QSize room);
 QImage imageOf(HICON icon);
 
 // Decodes any format that the system knows. Empty when it is no picture, a side is over 16384 pixels, or it needs more
 // than 64 MiB.
 QImage decodePicture(const QByteArray& bytes);
+// The size of what decodePicture gives, by the header alone in the formats whose headers can be relied on; empty where
+// the picture is refused.
+QSize pictureSize(const QByteArray& bytes);
 
 // Cuts a row of pictures of one size; an image that is no such row is one picture. `mask` becomes transparent.
 std::vector<QImage> cutPictures(const QImage& image, QSize size, COLORREF mask = CLR_NONE);

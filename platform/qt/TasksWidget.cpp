@@ -9,6 +9,8 @@
 
 #include <QtWidgets>
 
+#include <algorithm>
+
 namespace orvplatform
 {
 namespace
@@ -33,14 +35,19 @@ public:
     Column() { setMouseTracking(true); }
 
 protected:
-    void paintEvent(QPaintEvent*) override
+    void paintEvent(QPaintEvent* event) override
     {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         if (!groups)
             return;
-        for (const auto& group : *groups)
-            paintCard(painter, *group);
+        // From top to bottom, so those in sight stand together.
+        const QRect dirty = event->rect();
+        for (auto group = firstReaching(dirty.top()); group != groups->end(); ++group) {
+            if ((*group)->m_rect.top > dirty.bottom())
+                break;
+            paintCard(painter, **group);
+        }
     }
     void mouseMoveEvent(QMouseEvent* event) override
     {
@@ -67,11 +74,18 @@ protected:
 private:
     CMFCTasksPaneTaskGroup* titleAt(QPoint at) const
     {
-        if (groups)
-            for (const auto& group : *groups)
-                if (rectOf(group->m_rect).contains(at) && at.y() < group->m_rectGroup.top)
-                    return group.get();
-        return nullptr;
+        if (!groups)
+            return nullptr;
+        const auto group = firstReaching(at.y());
+        const bool hit =
+            group != groups->end() && rectOf((*group)->m_rect).contains(at) && at.y() < (*group)->m_rectGroup.top;
+        return hit ? group->get() : nullptr;
+    }
+    // The first group that doesn't end above y.
+    TaskGroups::const_iterator firstReaching(int y) const
+    {
+        return std::partition_point(groups->begin(), groups->end(),
+                                    [y](const auto& group) { return group->m_rect.bottom <= y; });
     }
 
     void paintCard(QPainter& painter, const CMFCTasksPaneTaskGroup& group)
@@ -149,6 +163,17 @@ private:
     int layoutWithin(int width);
 };
 
+// The height that a window was given, and more where its lowest button would be cut: heights are set for a few display
+// steps, forms grow with their font.
+int heightOf(const CMFCTasksPaneTask& task)
+{
+    int height = task.m_nWindowHeight;
+    if (isLive(task.m_hwndTask))
+        for (const auto* button : task.m_hwndTask->widget->findChildren<QPushButton*>(Qt::FindDirectChildrenOnly))
+            height = std::max(height, button->geometry().bottom() + 1);
+    return height;
+}
+
 int TasksWidget::layoutWithin(int width)
 {
     const int left = measures::gap;
@@ -163,10 +188,11 @@ int TasksWidget::layoutWithin(int width)
                 ShowWindow(task.m_hwndTask, SW_HIDE);
                 continue;
             }
-            MoveWindow(task.m_hwndTask, left + measures::grid, y, std::max(inner - 2 * measures::grid, 0),
-                       task.m_nWindowHeight, TRUE);
+            const int height = heightOf(task);
+            MoveWindow(task.m_hwndTask, left + measures::grid, y, std::max(inner - 2 * measures::grid, 0), height,
+                       TRUE);
             ShowWindow(task.m_hwndTask, SW_SHOW);
-            y += task.m_nWindowHeight;
+            y += height;
         }
         group->m_rectGroup = rectOf(QRect(left, body, inner, y - body));
         y += group->m_bIsCollapsed ? 0 : measures::grid;

@@ -279,7 +279,7 @@ HWND orvplatform::createWindow(const CREATESTRUCTW& create, const std::function<
 HWND CreateWindowExW(DWORD exStyle, LPCWSTR className, LPCWSTR name, DWORD style, int x, int y, int width, int height,
                      HWND parent, HMENU menu, HINSTANCE instance, LPVOID parameter)
 {
-    const CREATESTRUCTW create{parameter, instance,  menu,   parent, height, width, x, y, static_cast<LONG>(style),
+    const CREATESTRUCTW create{parameter, instance,  menu,   parent, height, width, y, x, static_cast<LONG>(style),
                                name,      className, exStyle};
     return orvplatform::createWindow(create, {});
 }
@@ -339,6 +339,9 @@ LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     switch (message) {
     case WM_CLOSE:
         ::DestroyWindow(window);
+        return 0;
+    case WM_SETREDRAW:
+        window->widget->setUpdatesEnabled(wParam != 0);
         return 0;
     case WM_SETTEXT:
         window->text = orvplatform::toQString(reinterpret_cast<LPCWSTR>(lParam));

@@ -2,6 +2,11 @@
 
 #include "atlimage.h"
 #include "platform/Process.h"
+#include "platform/qt/Gdi.h"
+#include "platform/qt/Native.h"
+
+#include <QPixmap>
+#include <QSize>
 
 #include <cstring>
 
@@ -48,6 +53,34 @@ TEST_F(Picture, IsReadFromAStream)
     EXPECT_EQ(description.bmWidth, 48);
     EXPECT_TRUE(DeleteObject(bitmap));
     EXPECT_FALSE(DeleteObject(bitmap));
+}
+
+TEST_F(Picture, IsDecodedWhenItIsAboutToBeSeen)
+{
+    const std::string whole = resource(5);
+    CImage image;
+    // Its header is there, its pixels are not: the size is known and nothing shows.
+    ASSERT_EQ(load(image, whole.substr(0, whole.find("IDAT") + 6)), S_OK);
+    EXPECT_EQ(image.GetWidth(), 48);
+    EXPECT_EQ(image.GetHeight(), 24);
+    EXPECT_TRUE(orvplatform::pixmapOf(static_cast<HBITMAP>(image)).isNull());
+    ASSERT_EQ(load(image, whole), S_OK);
+    EXPECT_EQ(orvplatform::pixmapOf(static_cast<HBITMAP>(image)).size(), QSize(48, 24));
+    BITMAP description{};
+    EXPECT_GT(GetObjectW(image, sizeof description, &description), 0);
+    EXPECT_EQ(description.bmHeight, 24);
+    EXPECT_EQ(description.bmBitsPixel, 32);
+}
+
+TEST_F(Picture, IsDrawnNoLargerThanItsRoomNeeds)
+{
+    CImage image;
+    ASSERT_EQ(load(image, resource(5)), S_OK);
+    HBITMAP bitmap = image;
+    EXPECT_EQ(orvplatform::shownPicture(bitmap, QSize(24, 12)).size(), QSize(24, 12));
+    EXPECT_EQ(orvplatform::shownPicture(bitmap, QSize(480, 240)).size(), QSize(48, 24));
+    image.Destroy();
+    EXPECT_TRUE(orvplatform::shownPicture(bitmap, QSize(24, 12)).isNull()); // the handle is bad by now
 }
 
 TEST_F(Picture, IsRefusedWhenBroken)

@@ -68,6 +68,18 @@ TEST_F(TasksPane, StacksGroupsOfTheGivenHeights)
     EXPECT_EQ(pane.GetTaskGroup(2), nullptr);
 }
 
+TEST_F(TasksPane, MakesRoomForAButtonThatWouldBeCut)
+{
+    CButton button;
+    EXPECT_TRUE(button.Create(L"Share", WS_CHILD | WS_VISIBLE, CRect(6, 80, 120, 106), &blocks[0], 5));
+    pane.AddWindow(pane.AddGroup(L"First", FALSE, TRUE), blocks[0], 100);
+    pane.AddWindow(pane.AddGroup(L"", FALSE, TRUE), blocks[1], 40);
+    const CRect first = placeOf(blocks[0]);
+    EXPECT_EQ(first.Height(), 106);
+    EXPECT_GT(placeOf(blocks[1]).top, first.bottom);
+    EXPECT_EQ(pane.GetTaskGroup(0)->m_lstTasks.at(0).m_nWindowHeight, 100); // what was asked for
+}
+
 TEST_F(TasksPane, LeavesTheWindowsOfRemovedGroups)
 {
     for (Block& block : blocks)
@@ -100,6 +112,41 @@ TEST_F(TasksPane, ScrollsWhatDoesNotFit)
     pane.AddWindow(pane.AddGroup(L"y", FALSE, TRUE), blocks[1], 800);
     EXPECT_LT(placeOf(blocks[0]).Width(), before.Width()); // the bar takes its room
     EXPECT_EQ(placeOf(blocks[1]).Height(), 800);
+}
+
+TEST_F(TasksPane, IsLaidOutOnceWhenRedrawingIsOnAgain)
+{
+    pane.AddWindow(pane.AddGroup(L"before", FALSE, TRUE), blocks[0], 50);
+    const CRect before = placeOf(blocks[0]);
+    pane.SetRedraw(FALSE);
+    pane.RemoveAllGroups();
+    pane.AddWindow(pane.AddGroup(L"first", FALSE, TRUE), blocks[1], 70);
+    pane.AddWindow(pane.AddGroup(L"again", FALSE, TRUE), blocks[0], 60);
+    EXPECT_EQ(pane.GetGroupCount(), 2);
+    EXPECT_EQ(placeOf(blocks[0]), before); // neither gone nor moved so far
+    EXPECT_TRUE(blocks[0].IsWindowVisible());
+    EXPECT_FALSE(blocks[1].IsWindowVisible());
+    pane.SetRedraw(TRUE);
+    EXPECT_TRUE(blocks[0].IsWindowVisible());
+    EXPECT_TRUE(blocks[1].IsWindowVisible());
+    EXPECT_EQ(placeOf(blocks[1]).top, before.top);
+    EXPECT_EQ(placeOf(blocks[1]).Height(), 70);
+    EXPECT_GT(placeOf(blocks[0]).top, placeOf(blocks[1]).bottom);
+    EXPECT_EQ(placeOf(blocks[0]).Height(), 60);
+}
+
+TEST_F(TasksPane, HidesWhatLostItsGroupWhenRedrawingIsOnAgain)
+{
+    for (Block& block : blocks)
+        pane.AddWindow(pane.AddGroup(L"x", FALSE, TRUE), block, 50);
+    pane.SetRedraw(FALSE);
+    pane.RemoveGroup(1);
+    pane.SetRedraw(TRUE);
+    EXPECT_TRUE(blocks[0].IsWindowVisible());
+    EXPECT_FALSE(blocks[1].IsWindowVisible());
+    EXPECT_TRUE(blocks[2].IsWindowVisible());
+    pane.RemoveGroup(0); // from here on at once, as ever
+    EXPECT_FALSE(blocks[0].IsWindowVisible());
 }
 
 TEST_F(TasksPane, RefusesBadArguments)

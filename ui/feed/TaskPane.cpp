@@ -11,15 +11,10 @@
 #include "ui/feed/FeedBlock.h"
 #include "ui/feed/FeedToolbarDialog.h"
 
-#include <algorithm>
-
 namespace
 {
 
 constexpr std::size_t blockCount = 100;
-// Every block is a handful of windows, so an endless feed would use up the desktop. The tab's title counts the entries
-// that aren't shown as well.
-constexpr std::size_t blockLimit = 1000;
 constexpr int loginHeight = 40; // pixels, at every resolution
 
 bool rebuilds(short code)
@@ -95,6 +90,40 @@ void CTaskPane::setFeed(std::vector<Feed> const& newFeed, std::shared_ptr<orvweb
     helper = cloudHelper;
 }
 
+/// While it lives, groups come and go without a layout or a picture for each; at the end all children that found no
+/// place are hidden. So a long feed is laid out once, and what stays on show doesn't go and come back.
+class CTaskPane::Rebuild
+{
+public:
+    explicit Rebuild(CTaskPane& taskPane) : pane(taskPane)
+    {
+        pane.placed.clear();
+        pane.SetRedraw(FALSE);
+    }
+    ~Rebuild()
+    {
+        for (FeedBlock* const block : pane.blocks) {
+            hideUnplaced(*block);
+        }
+        hideUnplaced(*pane.toolbar);
+        hideUnplaced(*pane.addFeed);
+        hideUnplaced(*pane.login);
+        pane.SetRedraw(TRUE);
+    }
+    Rebuild(Rebuild const&) = delete;
+    Rebuild& operator=(Rebuild const&) = delete;
+
+private:
+    void hideUnplaced(CWnd& child)
+    {
+        if (!pane.placed.contains(&child)) {
+            child.ShowWindow(SW_HIDE);
+        }
+    }
+
+    CTaskPane& pane;
+};
+
 void CTaskPane::OnUpdate(orv::IHint* hint)
 {
     if (hint == nullptr || !rebuilds(hint->getCode()) || toolbar == nullptr) {
@@ -105,7 +134,8 @@ void CTaskPane::OnUpdate(orv::IHint* hint)
     login->SetContext(userInfo, helper);
     addFeed->setUser(userInfo);
 
-    clear();
+    Rebuild const rebuild(*this);
+    RemoveAllGroups();
     forward(hint);
 
     bool const signedIn = userInfo && !userInfo->userid.empty();
@@ -128,17 +158,6 @@ void CTaskPane::OnUpdate(orv::IHint* hint)
     }
 }
 
-void CTaskPane::clear()
-{
-    for (FeedBlock* const block : blocks) {
-        block->ShowWindow(SW_HIDE);
-    }
-    toolbar->ShowWindow(SW_HIDE);
-    addFeed->ShowWindow(SW_HIDE);
-    login->ShowWindow(SW_HIDE);
-    RemoveAllGroups();
-}
-
 void CTaskPane::forward(orv::IHint* hint)
 {
     addFeed->OnUpdate(hint);
@@ -156,11 +175,12 @@ void CTaskPane::addGroup(std::wstring const& title, CWnd& child, int height)
     SetGroupTextColor(group, black, black);
     child.ShowWindow(SW_SHOW);
     AddWindow(group, child.GetSafeHwnd(), height, FALSE);
+    placed.insert(&child);
 }
 
 void CTaskPane::addBlocks()
 {
-    for (std::size_t i = 0; i < std::min(feed.size(), blockLimit); ++i) {
+    for (std::size_t i = 0; i < feed.size(); ++i) {
         FeedBlock* const block = blockAt(i);
         if (block == nullptr) {
             return;

@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 class AddFeed;
@@ -38,14 +39,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void clear();
+    class Rebuild;
+
     void forward(orv::IHint* hint);
     void addGroup(std::wstring const& title, CWnd& child, int height);
     void addBlocks();
     FeedBlock* blockAt(std::size_t index);
     FeedBlock* createBlock();
 
-    std::vector<FeedBlock*> blocks; ///< reused by position; grows with the longest feed, up to a limit
+    std::vector<FeedBlock*> blocks; ///< reused by position; grows with the longest feed
     AddFeed* addFeed = nullptr;
     FeedToolbarDialog* toolbar = nullptr;
     FeedLoginDlg* login = nullptr;
@@ -54,4 +56,5 @@ private:
     Feed spare; ///< never read; its place is given
     std::shared_ptr<orvweb::UserInfo> userInfo;
     std::shared_ptr<CloudHelper> helper;
+    std::unordered_set<CWnd const*> placed; ///< the children that stand in a group
 };
