@@ -1,5 +1,7 @@
 #include "platform/qt/Look.h"
 
+#include "platform/Process.h"
+
 #include <QtWidgets>
 
 #include <optional>
@@ -143,6 +145,11 @@ private:
     bool asked = false;
 };
 } // namespace
+
+int sideBarWidth()
+{
+    return qRound(320 * logicalDpi() / 96.0);
+}
 
 const Theme& theme()
 {

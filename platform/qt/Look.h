@@ -38,12 +38,13 @@ void applyLook(QApplication& application);
 // A colour that somebody chose for a light background, made readable on the theme's.
 QColor readable(QColor colour);
 
+int sideBarWidth(); // pixels at the display's resolution: its forms grow with their font
+
 namespace measures // pixels, on a grid of four
 {
 inline constexpr int grid = 4;
 inline constexpr int gap = 8;
 inline constexpr int radius = 4;
-inline constexpr int sideBarWidth = 320;
 inline constexpr int cardTitle = 28;
 inline constexpr int largeIcon = 32;
 inline constexpr int smallIcon = 16;

@@ -96,7 +96,7 @@ void PaneFrame::resizeEvent(QResizeEvent*)
 PaneTabs::PaneTabs(QWidget* parent)
     : QWidget(parent), bar(*new QTabBar), stack(*new QStackedWidget), opened(new QWidget(this)),
       strip(new QWidget(this)), edge(new Edge(opened, [this](int x) { drawEdge(x); })), floatButton(*new QToolButton),
-      pinButton(*new QToolButton), slideWidth(measures::sideBarWidth)
+      pinButton(*new QToolButton), slideWidth(sideBarWidth())
 {
     opened->setAutoFillBackground(true);
     bar.setExpanding(false);
@@ -167,7 +167,7 @@ void PaneTabs::setFloating(int index, bool floating)
         if (!frame.canResize)
             frame.setFixedSize(size);
         else
-            frame.setMinimumSize(measures::sideBarWidth / 2, measures::sideBarWidth / 2);
+            frame.setMinimumSize(sideBarWidth() / 2, sideBarWidth() / 2);
         frame.resize(size);
         frame.move(place);
     } else {
@@ -192,7 +192,7 @@ void PaneTabs::setFolded(bool fold)
     if (fold == isFolded())
         return;
     if (fold) {
-        slideWidth = std::max(width(), measures::sideBarWidth / 2);
+        slideWidth = std::max(width(), sideBarWidth() / 2);
         strip->show();
         hideAll(*opened);
     } else {
@@ -406,7 +406,7 @@ void PaneTabs::arrange()
 void PaneTabs::drawEdge(int globalX)
 {
     const int right = opened->mapToGlobal(QPoint(opened->width(), 0)).x();
-    slideWidth = std::clamp(right - globalX, measures::sideBarWidth / 2, 2 * measures::sideBarWidth);
+    slideWidth = std::clamp(right - globalX, sideBarWidth() / 2, 2 * sideBarWidth());
     arrange();
 }
 

@@ -92,9 +92,9 @@ void MainWindow::followSideBar()
 {
     int const wanted = sideBar->sizeHint().width();
     bool const isFolded = wanted > 0 && wanted < foldedLimit;
-    sideBar->setMinimumWidth(isFolded ? wanted : orvplatform::measures::sideBarWidth);
-    sideBar->setMaximumWidth(isFolded ? wanted : 2 * orvplatform::measures::sideBarWidth);
-    int const bar = isFolded ? wanted : orvplatform::measures::sideBarWidth;
+    sideBar->setMinimumWidth(isFolded ? wanted : orvplatform::sideBarWidth());
+    sideBar->setMaximumWidth(isFolded ? wanted : 2 * orvplatform::sideBarWidth());
+    int const bar = isFolded ? wanted : orvplatform::sideBarWidth();
     // Before the window is shown sizes say nothing yet.
     int const left = modelTree->isHidden() ? 0 : isVisible() ? modelTree->width() : treeWidth;
     splitter->setSizes({left, std::max((isVisible() ? splitter->width() : width()) - left - bar, 160), bar});
