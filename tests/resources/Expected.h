@@ -1,9 +1,11 @@
 #pragma once
-// What the compiled resources have to hold, language by language.
+// What the plug-in's resources have to hold, language by language.
 
+#include "resources/ElfSection.h"
 #include "resources/ResFile.h"
 
 #include <array>
+#include <stdexcept>
 #include <string>
 
 namespace restest
@@ -31,10 +33,10 @@ inline constexpr std::array<Language, 8> languages{{
 
 inline constexpr unsigned english = 1033;
 
-// The plug-in's resources, read once.
+// The resources that the built library carries, read once.
 inline const std::vector<Resource>& resources()
 {
-    static const std::vector<Resource> all = readResFile(readFile(ORV_RESOURCE_FILE));
+    static const std::vector<Resource> all = readResFile(sectionOf(readFile(ORV_PLUGIN_FILE), ".rsrc.orvanta").value());
     return all;
 }
 

@@ -58,6 +58,7 @@ struct IconEntry {
 };
 
 Bytes readFile(const std::filesystem::path& path);
+
 std::vector<Resource> readResFile(const Bytes& file);
 Dialog readDialog(const Bytes& data);
 std::vector<IconEntry> readIconGroup(const Bytes& data);

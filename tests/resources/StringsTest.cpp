@@ -95,6 +95,7 @@ protected:
 
 TEST(EnglishStrings, AreTheGivenTexts)
 {
+    EXPECT_EQ(englishTexts.size(), 43U);
     EXPECT_EQ(stringsIn(languages[0]), englishTexts);
 }
 
@@ -159,6 +160,15 @@ TEST_P(StringsTest, LinkTheServiceAndTheSupportAddress)
     EXPECT_NE(text[first - 1], ' ') << "two blanks, not more";
     EXPECT_LT(first + service.size(), second);
     EXPECT_EQ(text.find("<a", second + 1), std::string::npos);
+}
+
+TEST_P(StringsTest, NameTheProductAlike)
+{
+    for (const unsigned id : {120U, 121U, 122U, 2007U, 2008U}) {
+        const std::string& text = texts[id];
+        const bool lower = GetParam().tag == english && (id == 120 || id == 121); // given so
+        EXPECT_NE(text.find(lower ? "Orvanta cloud" : "Orvanta Cloud"), std::string::npos) << id << ": " << text;
+    }
 }
 
 TEST_P(StringsTest, AreTranslated)

@@ -1,0 +1,149 @@
+// The pictures are one family, and each is seen on the light and on the dark theme, at the smallest size, too.
+#include "resources/Expected.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <regex>
+#include <set>
+
+using namespace restest;
+namespace fs = std::filesystem;
+
+namespace
+{
+
+const Name png{u"PNG"};
+const std::vector<QColor> backgrounds{QColor(0xF4, 0xF5, 0xF7), QColor(0xFF, 0xFF, 0xFF), QColor(0x1E, 0x20, 0x23),
+                                      QColor(0x29, 0x2C, 0x30)};
+
+// Relative luminance and contrast as the web's accessibility guidelines define them (WCAG 2.1, 1.4.11: 3 to 1 for
+// pictures).
+double luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+QImage pictureOf(const Resource& resource)
+{
+    return QImage::fromData(QByteArray(reinterpret_cast<const char*>(resource.data.data()),
+                                       static_cast<qsizetype>(resource.data.size())))
+        .convertToFormat(QImage::Format_ARGB32);
+}
+
+std::vector<const Resource*> englishPictures()
+{
+    std::vector<const Resource*> found;
+    for (const Resource& resource : resources()) {
+        if (resource.type == png && resource.language == english) {
+            found.push_back(&resource);
+        }
+    }
+    return found;
+}
+
+// The drawings of one kind, without the window icon, which is filled.
+std::vector<std::string> lineDrawings()
+{
+    std::vector<std::string> texts;
+    for (const auto& entry : fs::directory_iterator(fs::path(ORV_SOURCE_DIR) / "resources/artwork")) {
+        const std::string name = entry.path().filename().string();
+        if (entry.path().extension() == ".svg" && !name.starts_with("cloud")) {
+            const Bytes bytes = readFile(entry.path());
+            texts.emplace_back(bytes.begin(), bytes.end());
+        }
+    }
+    return texts;
+}
+
+std::set<std::string> found(const std::string& text, const std::string& pattern)
+{
+    const std::regex expression(pattern);
+    std::set<std::string> result;
+    for (std::sregex_iterator it(text.begin(), text.end(), expression), end; it != end; ++it) {
+        result.insert((*it)[1]);
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(Pictures, StandOutFromLightAndDark)
+{
+    for (const Resource* resource : englishPictures()) {
+        SCOPED_TRACE(std::get<unsigned>(resource->name));
+        const QImage picture = pictureOf(*resource);
+        ASSERT_FALSE(picture.isNull());
+        int strong = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const QColor pixel = picture.pixelColor(x, y);
+                if (pixel.alpha() < 200) {
+                    continue; // an edge's soft pixel, or the tint of a surface
+                }
+                ++strong;
+                for (const QColor& background : backgrounds) {
+                    EXPECT_GE(contrast(pixel, background), 3.0) << x << ", " << y;
+                }
+            }
+        }
+        // A line drawing leaves most of its square free, and is still more than a few dots.
+        const int area = picture.width() * picture.height();
+        EXPECT_GE(strong, area * 6 / 100);
+        EXPECT_LE(strong, area * 50 / 100);
+    }
+}
+
+TEST(Pictures, AreDrawnForTheirSize)
+{
+    // A step that was only enlarged from the one before would be softer than its line of sharp pixels.
+    for (const Resource* resource : englishPictures()) {
+        const QImage picture = pictureOf(*resource);
+        int soft = 0;
+        int strong = 0;
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                const int alpha = qAlpha(picture.pixel(x, y));
+                strong += alpha >= 200;
+                soft += alpha > 64 && alpha < 200; // 51 is the tint of a surface
+            }
+        }
+        EXPECT_LE(soft, 2 * strong) << std::get<unsigned>(resource->name);
+    }
+}
+
+TEST(Artwork, IsOneFamily)
+{
+    const std::vector<std::string> drawings = lineDrawings();
+    EXPECT_EQ(drawings.size(), 9U);
+    for (const std::string& drawing : drawings) {
+        SCOPED_TRACE(drawing);
+        EXPECT_EQ(found(drawing, "stroke=\"(#[0-9A-F]{6})\""), (std::set<std::string>{"#3A7AE8", "#7A838E"}));
+        const std::set<std::string> side = found(drawing, "viewBox=\"0 0 ([0-9]+) ");
+        ASSERT_EQ(side.size(), 1U);
+        // One weight: a pixel and a half at the small sizes, two at the large ones.
+        EXPECT_EQ(found(drawing, "stroke-width=\"([0-9.]+)\""),
+                  (std::set<std::string>{std::stoi(*side.begin()) <= 20 ? "1.5" : "2"}));
+        EXPECT_EQ(found(drawing, "stroke-linecap=\"([a-z]+)\""), std::set<std::string>{"round"});
+    }
+}
+
+int main(int argc, char** argv)
+{
+    const QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
