@@ -1,9 +1,12 @@
 #include "afxcontrolbars.h"
 #include "afxwin.h"
 #include "platform/Process.h"
+#include "platform/qt/Native.h"
 #include "platform/testing/Input.h"
 
 #include <gtest/gtest.h>
+
+#include <QWidget>
 
 #include <memory>
 #include <stdexcept>
@@ -145,6 +148,15 @@ TEST_F(Window, HearsOfItsLifeInOrder)
     EXPECT_FALSE(IsWindow(handle));
     EXPECT_FALSE(window->DestroyWindow());
     delete window;
+}
+
+TEST_F(Window, StandsWhereItIsMade)
+{
+    CWnd made;
+    ASSERT_TRUE(made.Create(nullptr, L"", WS_CHILD, CRect(10, 20, 110, 70), &frame, 3));
+    HWND other = CreateWindowExW(0, L"Static", L"", WS_CHILD, 30, 40, 100, 50, frame.m_hWnd, nullptr, nullptr, nullptr);
+    EXPECT_EQ(orvplatform::widgetOf(made.m_hWnd)->geometry(), QRect(10, 20, 100, 50));
+    EXPECT_EQ(orvplatform::widgetOf(other)->geometry(), QRect(30, 40, 100, 50));
 }
 
 TEST_F(Window, IsNotMadeWhenCreationIsRefused)

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include <new>
 #include <set>
 
 using namespace orvtest;
@@ -12,6 +13,32 @@ namespace codes = orv::HintCode;
 
 namespace
 {
+bool memoryIsOut = false; // for allocations that answer with null
+} // namespace
+
+// Takes the place of the one that the plug-in's library calls.
+void* operator new(std::size_t size, std::nothrow_t const&) noexcept
+{
+    return memoryIsOut ? nullptr : ::operator new(size);
+}
+
+namespace
+{
+
+/// Notes its end in a list.
+class NotedApplication final : public orv::IApplication
+{
+public:
+    explicit NotedApplication(std::function<void()> atEnd) : note(std::move(atEnd)) {}
+    ~NotedApplication() override { note(); }
+    void saveFile(wchar_t const*, orv::SaveCompletion) override {}
+    void showStatus(wchar_t const*, int) override {}
+    std::shared_ptr<orv::IViewNotifier> getViewNotifier() override { return nullptr; }
+    orv::IStatusManager* getStatusManager() override { return nullptr; }
+
+private:
+    std::function<void()> note;
+};
 
 class LifecycleTest : public UiTest
 {
@@ -57,6 +84,55 @@ TEST_F(LifecycleTest, DestroyingNothingIsFine)
     orv::IPlugin* plugin = nullptr;
     EXPECT_EQ(destroy(&plugin), 0);
     EXPECT_EQ(plugin, nullptr);
+}
+
+TEST_F(LifecycleTest, WithoutMemoryANullIsStoredAndTheResultStaysZero)
+{
+    orv::IPlugin* plugin = nullptr;
+    ASSERT_EQ(create(&plugin), 0);
+    orv::IPlugin* other = plugin;
+    memoryIsOut = true;
+    int const result = create(&other);
+    memoryIsOut = false;
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(other, nullptr);
+    EXPECT_EQ(destroy(&plugin), 0);
+}
+
+TEST_F(LifecycleTest, ThePluginOfACreatingCallIsAlwaysANewOne)
+{
+    orv::IPlugin* first = nullptr;
+    orv::IPlugin* second = nullptr;
+    create(&first);
+    create(&second);
+    EXPECT_NE(first, second);
+    destroy(&first);
+    EXPECT_EQ(first, nullptr);
+    EXPECT_STREQ(second->getName(), L"cloudplugin");
+    destroy(&second);
+}
+
+TEST_F(LifecycleTest, ThePageGoesBeforeTheApplicationAndThatBeforeTheDocument)
+{
+    TestScene own;
+    std::weak_ptr<orv::IDocument> const document = own.document;
+    long atEndOfApplication = -1;
+    auto noted = std::make_shared<NotedApplication>([&] { atEndOfApplication = document.use_count(); });
+    CMFCPropertySheet sheet(L"Options");
+    EXPECT_TRUE(sheet.Create(&frame));
+    long const others = own.document.use_count();
+    {
+        LoadedPlugin plugin;
+        sendHint(*plugin.operator->(), codes::documentOpened, own.document);
+        plugin->OnCommand(nullptr, 999, noted);
+        plugin->AddToPropertySheet(sheet.GetSafeHwnd(), nullptr);
+        noted.reset();
+        EXPECT_EQ(atEndOfApplication, -1);
+        EXPECT_EQ(own.document.use_count(), others + 2); // the plug-in's and the page's
+        sheet.DestroyWindow();
+    }
+    EXPECT_EQ(atEndOfApplication, others + 1) << "the page had gone, the plug-in's document had not";
+    EXPECT_EQ(own.document.use_count(), others);
 }
 
 TEST_F(LifecycleTest, NoPreferencesAreKept)
