@@ -1,6 +1,10 @@
 #include "shell/LoadedPlugin.h"
 
+#include "platform/qt/Native.h"
+#include "platform/qt/RibbonWidget.h"
 #include "platform/qt/ToolBarPictures.h"
+
+#include <QToolButton>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -98,6 +102,77 @@ TEST_F(InterfaceTest, TheTwoButtonsShareOneSmallPicture)
     EXPECT_EQ(share->GetImageIndex(TRUE), 1);
 }
 
+TEST_F(InterfaceTest, ThePanelsIconIsTheButtonsSmallPicture)
+{
+    OrvantaCategory& category = openRibbon();
+    category.GetSmallImages().Load(206, ResourceModule::handle(), TRUE); // the viewer's
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    QImage const icon = orvplatform::pixmapOf(category.GetPanel(1)->GetDefaultIcon()).toImage();
+    ASSERT_FALSE(icon.isNull());
+    EXPECT_EQ(icon, QPixmap::fromImage(category.GetSmallImages().pictures().pictures.at(1)).toImage());
+    EXPECT_TRUE(isPicture(category.GetSmallImages(), 1, 505));
+}
+
+TEST_F(InterfaceTest, TheButtonsShowTheirDescriptionsOnlyWhenAsked)
+{
+    struct Opened : CMFCRibbonButton {
+        using CMFCRibbonButton::m_bAlwaysShowDescription;
+    };
+    OrvantaCategory& category = openRibbon();
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    for (int i = 0; i < 2; ++i) {
+        auto const* const button = dynamic_cast<CMFCRibbonButton*>(category.GetPanel(1)->GetElement(i));
+        EXPECT_FALSE(button->*&Opened::m_bAlwaysShowDescription);
+    }
+}
+
+TEST_F(InterfaceTest, ACollapsedShareButtonShowsThePictureOfPush)
+{
+    configure(L"en", 192.0); // at 100 per cent two large buttons are no wider than a column of small ones
+    openRibbon();
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    frame.ShowWindow(SW_SHOW);
+    ribbon.MoveWindow(0, 0, 60, 120);
+    orvplatform::refreshRibbon(ribbon);
+    orvplatform::testing::processEvents();
+    std::vector<QImage> shown;
+    for (UINT const id : {pushId, shareId}) {
+        auto const* const button = qobject_cast<QToolButton*>(orvplatform::ribbonButton(ribbon.GetSafeHwnd(), id));
+        ASSERT_NE(button, nullptr);
+        EXPECT_EQ(button->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+        shown.push_back(button->icon().pixmap(button->iconSize()).toImage());
+    }
+    EXPECT_EQ(shown[0], shown[1]);
+    EXPECT_EQ(shown[0].size(), QSize(32, 32));
+}
+
+TEST_F(InterfaceTest, AnEmptyCategoryGetsThePanelAsItsFirst)
+{
+    EXPECT_TRUE(ribbon.Create(&frame));
+    auto* const category = dynamic_cast<OrvantaCategory*>(
+        ribbon.AddCategory(L"Home", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(OrvantaCategory)));
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    ASSERT_EQ(category->GetPanelCount(), 1);
+    EXPECT_STREQ(category->GetPanel(0)->GetName(), L"Cloud");
+}
+
+TEST_F(InterfaceTest, PicturesAreFoundUnderTheViewersOwnModuleAndItStaysSet)
+{
+    HINSTANCE const own = emptyModule();
+    AfxSetResourceHandle(own);
+    OrvantaCategory& category = openRibbon();
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    EXPECT_EQ(AfxGetResourceHandle(), own);
+    EXPECT_EQ(category.GetLargeImages().GetCount(), 2);
+    openSideBar();
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    EXPECT_EQ(AfxGetResourceHandle(), own);
+    ASSERT_EQ(sideBar.tabs().large.size(), 1U);
+    EXPECT_EQ(sideBar.tabs().large[0].count, 1);
+    EXPECT_NE(sideBar.tabs().GetTabWnd(0), nullptr);
+    ResourceModule::use();
+}
+
 TEST_F(InterfaceTest, PicturesOfTheViewerKeepTheirPlaces)
 {
     OrvantaCategory& category = openRibbon();
@@ -189,13 +264,40 @@ TEST_F(InterfaceTest, TheLargeSideIsCutToAWholeNumber)
     EXPECT_EQ(sideBar.tabs().small[0].height, 18);
 }
 
-TEST_F(InterfaceTest, ThePanelSpeaksTheUsersLanguage)
+TEST_F(InterfaceTest, PanelTabAndPageSpeakTheUsersLanguage)
 {
-    configure(L"de");
-    OrvantaCategory& category = openRibbon();
-    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
-    EXPECT_EQ(category.GetPanel(1)->GetElement(0)->GetText(), text(119));
-    EXPECT_NE(text(119), L"Push to cloud");
+    sendHint(*plugin.operator->(), codes::documentOpened, scene.document);
+    for (wchar_t const* const language : {L"fr", L"de", L"ja", L"ko", L"zh", L"es", L"pt"}) {
+        SCOPED_TRACE(language);
+        configure(language);
+        CMFCRibbonBar bar;
+        EXPECT_TRUE(bar.Create(&frame));
+        auto& category = dynamic_cast<OrvantaCategory&>(
+            *bar.AddCategory(L"Home", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(OrvantaCategory)));
+        plugin->AddToRibbon(bar.GetSafeHwnd(), resources);
+        EXPECT_EQ(category.GetPanel(0)->GetName(), text(112));
+        EXPECT_EQ(category.GetPanel(0)->GetElement(0)->GetText(), text(119));
+        EXPECT_EQ(category.GetPanel(0)->GetElement(0)->GetToolTipText().GetString(), text(119));
+        EXPECT_EQ(category.GetPanel(0)->GetElement(1)->GetText(), text(103));
+        EXPECT_EQ(category.GetPanel(0)->GetElement(1)->GetToolTipText().GetString(), text(103));
+        EXPECT_NE(text(119), L"Push to cloud");
+        bar.DestroyWindow();
+
+        LoadedPlugin another; // a pane goes into one side bar alone
+        SideBar side;
+        EXPECT_TRUE(side.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 8, WS_CHILD | WS_VISIBLE));
+        another->AddToOutlookBar(side.GetSafeHwnd(), resources);
+        ASSERT_EQ(side.tabs().controls.size(), 1U);
+        EXPECT_EQ(side.tabs().controls[0].title, text(217));
+        side.DestroyWindow();
+
+        CMFCPropertySheet sheet(L"Options");
+        EXPECT_TRUE(sheet.Create(&frame));
+        plugin->AddToPropertySheet(sheet.GetSafeHwnd(), resources);
+        ASSERT_EQ(sheet.GetPageCount(), 1);
+        EXPECT_EQ(sheet.GetPage(0)->GetCaption().GetString(), text(112)); // the template's title is the same word
+        sheet.DestroyWindow();
+    }
 }
 
 TEST_F(InterfaceTest, AWindowOfAnotherClassIsLeftAlone)
@@ -238,6 +340,33 @@ TEST_F(InterfaceTest, ThePaneIsATabOfTheSideBar)
     auto* const outlookPane = dynamic_cast<orv::IOutlookPane*>(pane);
     ASSERT_NE(outlookPane, nullptr);
     EXPECT_EQ(outlookPane->paneValue, 5);
+}
+
+TEST_F(InterfaceTest, ThePaneIsEnrolledWithItsValueBeforeItsTabStands)
+{
+    struct NotingResources final : orvui::IResourceManager {
+        int getCommandId(int localNumber) override { return 40000 + localNumber; }
+        void addWindow(HWND window) override
+        {
+            auto* const pane = dynamic_cast<orv::IOutlookPane*>(CWnd::FromHandle(window));
+            value = pane == nullptr ? -1 : pane->paneValue;
+            tabsByThen = bar->tabs().GetTabsNum();
+            listsByThen = bar->tabs().GetImageListCount();
+        }
+        SideBar* bar = nullptr;
+        int value = -1;
+        int tabsByThen = -1;
+        int listsByThen = -1;
+    };
+    openSideBar();
+    sideBar.paneValue = 11;
+    auto const noting = std::make_shared<NotingResources>();
+    noting->bar = &sideBar;
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), noting);
+    EXPECT_EQ(noting->value, 11);
+    EXPECT_EQ(noting->tabsByThen, 0);
+    EXPECT_EQ(noting->listsByThen, 1);
+    EXPECT_EQ(sideBar.tabs().GetTabsNum(), 1);
 }
 
 TEST_F(InterfaceTest, ThePaneFloatsHidesAndResizesButDoesNotClose)
