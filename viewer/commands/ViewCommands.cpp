@@ -136,9 +136,15 @@ bool isOrthographic(CommandContext const& context)
     return renderer && renderer->camera->orthographic;
 }
 
+void fitWhole(std::shared_ptr<orv::IDocument> const& document, orvgl::Camera& camera, double aspect)
+{
+    fit(camera, outlinePoints(document, {}), aspect);
+}
+
 void setFirstView(std::shared_ptr<orv::IDocument> const& document, double aspect)
 {
-    if (auto const renderer = orv::recordOf<orvgl::SCRenderer>(document)) {
+    auto const renderer = orv::recordOf<orvgl::SCRenderer>(document);
+    if (renderer && *renderer->camera == orvgl::Camera()) { // a file may bring its own view
         lookFrom(*renderer->camera, StandardView::isometric);
         fit(*renderer->camera, outlinePoints(document, {}), aspect);
     }

@@ -16,7 +16,10 @@ void zoomView(CommandContext& context, double factor);                 ///< belo
 void setOrthographic(CommandContext& context, bool orthographic);
 bool isOrthographic(CommandContext const& context);
 
-/// The view in which a model opens: isometric, fitted.
+/// Fits any camera to the whole model, for a picture of that width-to-height ratio; its direction stays.
+void fitWhole(std::shared_ptr<orv::IDocument> const& document, orvgl::Camera& camera, double aspect);
+
+/// The view in which a model opens: the one that its file brings, else isometric, fitted.
 void setFirstView(std::shared_ptr<orv::IDocument> const& document, double aspect);
 
 } // namespace orvviewer

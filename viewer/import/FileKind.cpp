@@ -1,5 +1,6 @@
 #include "viewer/import/FileKind.h"
 
+#include "host/orvexp/NativeFormat.h"
 #include "host/runtime/Files.h"
 #include "platform/text/Text.h"
 
@@ -25,7 +26,7 @@ struct Extension {
     wchar_t const* name;
     FileKind kind;
 };
-constexpr std::array<Extension, 11> extensions{{{L"step", FileKind::step},
+constexpr std::array<Extension, 12> extensions{{{L"step", FileKind::step},
                                                 {L"stp", FileKind::step},
                                                 {L"p21", FileKind::step},
                                                 {L"iges", FileKind::iges},
@@ -35,7 +36,8 @@ constexpr std::array<Extension, 11> extensions{{{L"step", FileKind::step},
                                                 {L"stl", FileKind::stl},
                                                 {L"obj", FileKind::obj},
                                                 {L"gltf", FileKind::gltf},
-                                                {L"glb", FileKind::gltf}}};
+                                                {L"glb", FileKind::gltf},
+                                                {L"orvanta", FileKind::native}}};
 
 struct Ends {
     std::string head;
@@ -133,6 +135,16 @@ Verdict judgeGltf(Ends const& ends)
     return last != std::string::npos && ends.tail[last] == '}' ? Verdict::good : Verdict::cutOff;
 }
 
+Verdict judgeNative(Ends const& ends)
+{
+    namespace native = orvexp::native;
+    if (!ends.head.starts_with(native::beginning)) {
+        return Verdict::foreign;
+    }
+    auto const seal = ends.tail.size() - std::min(ends.tail.size(), native::sealSize);
+    return ends.tail.compare(seal, native::sealMark.size(), native::sealMark) == 0 ? Verdict::good : Verdict::cutOff;
+}
+
 Verdict judge(FileKind kind, Ends const& ends)
 {
     switch (kind) {
@@ -148,6 +160,8 @@ Verdict judge(FileKind kind, Ends const& ends)
         return judgeObj(ends);
     case FileKind::gltf:
         return judgeGltf(ends);
+    case FileKind::native:
+        return judgeNative(ends);
     case FileKind::unknown:
         break;
     }
@@ -200,7 +214,8 @@ FileCheck checkFile(std::wstring const& path)
     }
     auto const kind = kindOfExtension(path);
     if (kind == FileKind::unknown) {
-        return {kind, name + L" is of a type that can't be opened. Open STEP, IGES, BREP, STL, OBJ or glTF files."};
+        return {kind,
+                name + L" is of a type that can't be opened. Open STEP, IGES, BREP, STL, OBJ, glTF or Orvanta files."};
     }
     Ends ends;
     if (!readEnds(file, ends)) {

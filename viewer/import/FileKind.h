@@ -6,7 +6,7 @@
 namespace orvviewer
 {
 
-enum class FileKind { step, iges, brep, stl, obj, gltf, unknown };
+enum class FileKind { step, iges, brep, stl, obj, gltf, native, unknown };
 
 /// What a file turned out to be before anything of it is interpreted.
 struct FileCheck {

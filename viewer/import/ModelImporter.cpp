@@ -9,6 +9,7 @@
 #include "viewer/import/AssemblyWalker.h"
 #include "viewer/import/CrashGuard.h"
 #include "viewer/import/FileKind.h"
+#include "viewer/import/NativeState.h"
 #include "viewer/import/StepReferences.h"
 #include "viewer/import/XcafReader.h"
 
@@ -22,6 +23,7 @@
 #include <exception>
 #include <filesystem>
 #include <mutex>
+#include <optional>
 
 namespace orvviewer
 {
@@ -56,7 +58,8 @@ void silenceKernel()
     std::call_once(once, [] { Message::DefaultMessenger()->RemovePrinters(STANDARD_TYPE(Message_PrinterOStream)); });
 }
 
-std::shared_ptr<orv::Document> makeDocument(SceneRecords records, std::wstring const& path)
+std::shared_ptr<orv::Document> makeDocument(SceneRecords records, std::wstring const& path,
+                                            std::optional<orvgl::Camera> const& camera)
 {
     auto const nodeCount = records.topology->nodes.size();
     auto info = std::make_shared<orvsg::SCInfo>();
@@ -69,7 +72,11 @@ std::shared_ptr<orv::Document> makeDocument(SceneRecords records, std::wstring c
     document->setSchema(orvsg::SCSceneRT::key, std::move(records.runtime));
     document->setSchema(EdgeRecord::key, std::move(records.edges));
     document->setSchema(orvsg::SCInfo::key, std::move(info));
-    document->setSchema(orvgl::SCRenderer::key, std::make_shared<orvgl::SCRenderer>());
+    auto renderer = std::make_shared<orvgl::SCRenderer>();
+    if (camera) {
+        *renderer->camera = *camera;
+    }
+    document->setSchema(orvgl::SCRenderer::key, std::move(renderer));
     document->setSchema(orvsg::SCPmi::key, std::make_shared<orvsg::SCPmi>());
     document->setSchema(orvsg::SCBom::BOM, std::make_shared<orvsg::SCBom>());
     return document;
@@ -105,9 +112,13 @@ ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& 
     if (records.resources->meshes.empty()) {
         return failed(name, L"holds no part with surfaces. Export the model with its solids and open the new file.");
     }
+    std::optional<orvgl::Camera> camera;
+    if (kind == FileKind::native) {
+        camera = applyNativeState(structured, records);
+    }
     progress.percent = 100;
     auto const whereItLies = orvtext::fromUtf8(std::filesystem::absolute(file).lexically_normal().string());
-    return {makeDocument(std::move(records), whereItLies), {}, false};
+    return {makeDocument(std::move(records), whereItLies, camera), {}, false};
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <BRepMesh_IncrementalMesh.hxx>
 #include <BRep_Tool.hxx>
 #include <Bnd_Box.hxx>
+#include <Poly_Polygon3D.hxx>
 #include <Poly_PolygonOnTriangulation.hxx>
 #include <Poly_Triangulation.hxx>
 #include <StdPrs_ToolTriangulatedShape.hxx>
@@ -59,8 +60,7 @@ void addFace(TopoDS_Face const& face, orvsg::Mesh& mesh)
     if (triangulation.IsNull() || triangulation->NbTriangles() == 0) {
         return;
     }
-    bool const hasSurface = !BRep_Tool::Surface(face).IsNull();
-    if (hasSurface) {
+    if (!BRep_Tool::Surface(face).IsNull()) {
         StdPrs_ToolTriangulatedShape::ComputeNormals(face, triangulation);
     }
 
@@ -99,6 +99,35 @@ void addFace(TopoDS_Face const& face, orvsg::Mesh& mesh)
     for (auto const index : part.triangles) {
         mesh.triangles.push_back(firstVertex + index);
     }
+}
+
+/// The lines that a shape without surfaces has instead of edges.
+std::vector<float> polygonsOf(TopoDS_Shape const& shape)
+{
+    std::vector<float> segments;
+    for (TopExp_Explorer edges(shape, TopAbs_EDGE); edges.More(); edges.Next()) {
+        TopLoc_Location location;
+        Handle(Poly_Polygon3D) const polygon = BRep_Tool::Polygon3D(TopoDS::Edge(edges.Current()), location);
+        if (polygon.IsNull()) {
+            continue;
+        }
+        gp_Trsf const placement = location.Transformation();
+        for (int i = polygon->Nodes().Lower(); i < polygon->Nodes().Upper(); ++i) {
+            append(segments, polygon->Nodes().Value(i).Transformed(placement).XYZ());
+            append(segments, polygon->Nodes().Value(i + 1).Transformed(placement).XYZ());
+        }
+    }
+    return segments;
+}
+
+bool hasSurface(TopoDS_Shape const& shape)
+{
+    for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
+        if (!BRep_Tool::Surface(TopoDS::Face(faces.Current())).IsNull()) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void addPolyline(TopoDS_Edge const& edge, TopoDS_Face const& face, std::vector<float>& segments)
@@ -145,8 +174,10 @@ std::vector<float> edgesOf(TopoDS_Shape const& shape)
 Tessellation tessellate(TopoDS_Shape const& shape, TopTools_DataMapOfShapeInteger const& faceColors)
 {
     Tessellation result;
-    triangulate(shape);
-    bool hasSurfaces = false;
+    bool const hasSurfaces = hasSurface(shape);
+    if (hasSurfaces) {
+        triangulate(shape);
+    }
     for (TopExp_Explorer faces(shape, TopAbs_FACE); faces.More(); faces.Next()) {
         auto const& face = TopoDS::Face(faces.Current());
         auto const first = static_cast<std::uint32_t>(result.mesh.triangles.size() / 3);
@@ -155,14 +186,16 @@ Tessellation tessellate(TopoDS_Shape const& shape, TopTools_DataMapOfShapeIntege
         if (count == 0) {
             continue;
         }
-        hasSurfaces = hasSurfaces || !BRep_Tool::Surface(face).IsNull();
         orvsg::MeshFace entry{first, count, {}};
         if (faceColors.IsBound(face)) {
             entry.color = static_cast<unsigned long>(faceColors.Find(face));
         }
         result.mesh.faces.push_back(entry);
     }
-    result.edgeSegments = hasSurfaces ? edgesOf(shape) : creaseSegments(result.mesh, creaseDegrees);
+    result.edgeSegments = hasSurfaces ? edgesOf(shape) : polygonsOf(shape);
+    if (!hasSurfaces && result.edgeSegments.empty()) {
+        result.edgeSegments = creaseSegments(result.mesh, creaseDegrees);
+    }
     return result;
 }
 

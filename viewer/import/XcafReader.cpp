@@ -1,5 +1,7 @@
 #include "viewer/import/XcafReader.h"
 
+#include "viewer/import/NativeState.h"
+
 #include <BRepTools.hxx>
 #include <BRep_Builder.hxx>
 #include <BinTools.hxx>
@@ -110,6 +112,8 @@ bool readStructured(FileKind kind, std::string const& utf8Path, Handle(TDocStd_D
         reader.SetFileCoordinateSystem(RWMesh_CoordinateSystem_glTF);
         return readMesh(reader, utf8Path, document, progress);
     }
+    case FileKind::native:
+        return readNative(utf8Path, document, progress);
     case FileKind::unknown:
         break;
     }

@@ -1,9 +1,9 @@
 #include "exporters/prcdelaywriter/PrcDelayWriter.h"
 
+#include "exporters/ExportLibraries.h"
 #include "exporters/FullDisk.h"
 #include "exporters/prc/PrcReader.h"
 #include "exporters/prcdelaywriter/DocumentMaker.h"
-#include "host/orv/IStatusManager.h"
 #include "host/orv/Preferences.h"
 #include "host/orvsg/Value.h"
 #include "platform/text/Text.h"
@@ -18,27 +18,6 @@ namespace
 
 using orvexp::Status;
 using testing::ElementsAre;
-
-// The messages that the progress bar gets: 1 shown, 0 hidden, percentages in between.
-class ProgressBar final : public orv::IStatusManager
-{
-public:
-    void setProgress(int const& percent, int channel) override
-    {
-        EXPECT_EQ(channel, 1);
-        EXPECT_TRUE(isShown);
-        percents.push_back(percent);
-    }
-    void showProgress(int on, int channel) override
-    {
-        EXPECT_EQ(channel, 1);
-        isShown = on != 0;
-        ++switched;
-    }
-    std::vector<int> percents;
-    bool isShown = false;
-    int switched = 0;
-};
 
 class PrcDelayWriterTest : public testing::Test
 {
@@ -68,7 +47,7 @@ protected:
 
     std::filesystem::path folder;
     DocumentMaker maker;
-    ProgressBar bar;
+    orvtest::ProgressBar bar;
     prcdelay::PrcDelayWriter writer;
 };
 

@@ -1,0 +1,68 @@
+#include "exporters/meshwriters/MeshExporter.h"
+
+#include "exporters/base/PlacedParts.h"
+#include "exporters/base/Units.h"
+#include "exporters/meshwriters/MeshScene.h"
+#include "exporters/meshwriters/OutputSystem.h"
+
+#include <assimp/Exporter.hpp>
+#include <assimp/ProgressHandler.hpp>
+#include <assimp/scene.h>
+
+namespace meshwriters
+{
+
+namespace
+{
+
+constexpr double madePart = 0.4;
+constexpr double writtenPart = 0.95;
+
+class ProgressBridge final : public Assimp::ProgressHandler
+{
+public:
+    explicit ProgressBridge(orvexport::Progress& bar) : progress(bar) {}
+    bool Update(float done) override
+    {
+        if (done >= 0) { // less than nothing stands for "not known"
+            progress.set(madePart + (writtenPart - madePart) * static_cast<double>(done));
+        }
+        return true;
+    }
+
+private:
+    orvexport::Progress& progress;
+};
+
+} // namespace
+
+MeshExporter::MeshExporter(Format const& written)
+    : Exporter(written.library, written.identity, {written.extension}), format(written)
+{
+}
+
+void MeshExporter::write(orvexport::Job const& job)
+{
+    auto const parts = orvexport::placedParts(job.document);
+    if (parts.empty()) {
+        throw orvexport::NothingToWrite();
+    }
+    SceneOptions options;
+    options.millimetresPerUnit = orvexport::millimetresPerUnit(job.preferences);
+    options.mostInMesh = format.mostInMesh;
+    options.plainNames = format.plainNames;
+    options.progress = [&job](double done) { job.progress.set(madePart * done); };
+    auto const scene = makeScene(parts, options);
+
+    Assimp::Exporter exporter;
+    auto* const output = new OutputSystem(job.path, job.file); // the exporter's from here on, as is the bridge
+    exporter.SetIOHandler(output);
+    exporter.SetProgressHandler(new ProgressBridge(job.progress));
+    aiReturn const result = exporter.Export(scene.get(), format.assimpId, job.path.c_str());
+    output->finish();
+    if (result != aiReturn_SUCCESS) {
+        throw orvexport::OutputError(exporter.GetErrorString());
+    }
+}
+
+} // namespace meshwriters

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/orv/DLLFuncPtrHelper.h"
+#include "host/orv/IPlugin.h"
+#include "host/orv/IStatusManager.h"
+#include "host/orvexp/ExportHelper.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace orvtest
+{
+
+/// The exporter of the build tree in the library of that name.
+inline std::shared_ptr<orvexp::ExportHelper> loadExporter(std::string const& name)
+{
+    auto const path = std::filesystem::path(ORV_BINARY_DIR) / "lib/export" / (name + ".dll");
+    auto const library =
+        std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(path.wstring().c_str(), "createPlugin", "destroyPlugin");
+    EXPECT_TRUE(library->isValid()) << testing::PrintToString(library->errorText());
+    return std::make_shared<orvexp::ExportHelper>(library);
+}
+
+/// Notes what the progress bar is told.
+class ProgressBar final : public orv::IStatusManager
+{
+public:
+    void setProgress(int const& percent, int channel) override
+    {
+        EXPECT_EQ(channel, 1);
+        EXPECT_TRUE(isShown);
+        percents.push_back(percent);
+    }
+    void showProgress(int on, int channel) override
+    {
+        EXPECT_EQ(channel, 1);
+        isShown = on != 0;
+        ++switched;
+    }
+    std::vector<int> percents;
+    bool isShown = false;
+    int switched = 0;
+};
+
+} // namespace orvtest
