@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -157,6 +159,28 @@ TEST_F(WebFailures, AnAnswerOverTheLimit)
     auto const largest = answeredWith(Answer::ok(std::string(1 << 20, 'x')));
     EXPECT_EQ(largest.code, ErrorCode::none);
     EXPECT_EQ(largest.body.size(), 1U << 20);
+}
+
+TEST_F(WebFailures, ALargeAnswerWithoutAPlaceForItIsLostAlone)
+{
+    // What passes the first megabytes goes to the temporary directory.
+    char const* const before = std::getenv("TMPDIR");
+    std::string const kept = before == nullptr ? "" : before;
+    std::filesystem::create_directories(session.directory() / "temporary");
+    ::setenv("TMPDIR", (session.directory() / "temporary").c_str(), 1);
+    orvweb::CurlTransport roomy;
+    HttpRequest request;
+    request.url = server.url() + "/a";
+    server.expect("GET", "/a", Answer::large(20 << 20));
+    EXPECT_EQ(roomy.send(request, {}).body, std::string(20 << 20, 'x'));
+    EXPECT_TRUE(std::filesystem::is_empty(session.directory() / "temporary"));
+
+    ::setenv("TMPDIR", (session.directory() / "missing").c_str(), 1);
+    server.expect("GET", "/a", Answer::large(20 << 20));
+    expectFailure(roomy.send(request, {}), ErrorCode::broken, 200);
+    server.expect("GET", "/a", Answer::large(1 << 20));
+    EXPECT_EQ(roomy.send(request, {}).body.size(), 1U << 20);
+    before == nullptr ? ::unsetenv("TMPDIR") : ::setenv("TMPDIR", kept.c_str(), 1);
 }
 
 TEST_F(WebFailures, PlainHttpLeavesThisMachineNever)

@@ -86,8 +86,8 @@ private:
             char block[4096];
             int const count = isAgreed ? SSL_read(session.get(), block, sizeof block) : 0;
             if (count > 0 && hangsUp) {
-                linger const atOnce{1, 0};
-                ::setsockopt(socket, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
+                // Says that nothing more comes, and leaves with the rest of the request unread.
+                ::shutdown(socket, SHUT_WR);
             } else if (count > 0) {
                 received.assign(block, static_cast<std::size_t>(count));
                 std::string const answer = "HTTP/1.1 200 OK\r\nConnection: close\r\nContent-Length: 10\r\n"
