@@ -4,6 +4,7 @@
 #include "service/ReplaceAll.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace
@@ -14,6 +15,18 @@ constexpr std::size_t prefixLength = 23;    // "data:image/jpeg;base64,"
 constexpr std::size_t webPrefixLength = 22; // the web client's prefix is one character shorter
 
 constexpr std::string_view alphabet = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+constexpr std::uint32_t noValue = 64;
+
+/// The six bits that a character stands for, or noValue.
+constexpr std::array<std::uint32_t, 256> valuesOfCharacters()
+{
+    std::array<std::uint32_t, 256> values{};
+    values.fill(noValue);
+    for (std::uint32_t value = 0; value < alphabet.size(); ++value) {
+        values[static_cast<unsigned char>(alphabet[value])] = value;
+    }
+    return values;
+}
 
 } // namespace
 
@@ -35,31 +48,33 @@ std::string decodeThumbnail(Feed const& feed)
 
 std::string decodeBase64(std::string_view text)
 {
-    std::string bytes;
-    bytes.reserve(text.size() / 4 * 3);
+    static constexpr std::array<std::uint32_t, 256> values = valuesOfCharacters();
+    std::string bytes(text.size() / 4 * 3 + 3, '\0'); // as long as it can get
+    char* end = bytes.data();
     std::uint32_t group = 0;
-    int count = 0;
+    unsigned count = 0;
     for (char const character : text) {
-        std::size_t const value = alphabet.find(character);
-        if (value == std::string_view::npos) {
+        std::uint32_t const value = values[static_cast<unsigned char>(character)];
+        if (value == noValue) {
             break;
         }
-        group = (group << 6U) | static_cast<std::uint32_t>(value);
+        group = (group << 6U) | value;
         if (++count == 4) {
-            for (unsigned shift : {16U, 8U, 0U}) {
-                bytes.push_back(static_cast<char>((group >> shift) & 0xFFU));
-            }
+            *end++ = static_cast<char>(group >> 16U);
+            *end++ = static_cast<char>(group >> 8U);
+            *end++ = static_cast<char>(group);
             group = 0;
             count = 0;
         }
     }
     if (count > 1) {
-        group <<= 6U * static_cast<unsigned>(4 - count);
-        bytes.push_back(static_cast<char>((group >> 16U) & 0xFFU));
+        group <<= 6U * (4 - count);
+        *end++ = static_cast<char>(group >> 16U);
         if (count == 3) {
-            bytes.push_back(static_cast<char>((group >> 8U) & 0xFFU));
+            *end++ = static_cast<char>(group >> 8U);
         }
     }
+    bytes.resize(static_cast<std::size_t>(end - bytes.data()));
     return bytes;
 }
 

@@ -14,6 +14,21 @@ RECT rectOf(const QRect& rect)
 {
     return {rect.x(), rect.y(), rect.x() + rect.width(), rect.y() + rect.height()};
 }
+
+// Looks through widgets without a window of their own, and never into other windows: a list may hold thousands.
+HWND childWithId(const QWidget* parent, int id)
+{
+    for (QObject* object : parent->children()) {
+        auto* child = qobject_cast<QWidget*>(object);
+        if (!child)
+            continue;
+        HWND window = existingHandle(child);
+        HWND found = window ? (window->id == id ? window : nullptr) : childWithId(child, id);
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
 } // namespace
 
 HWND GetParent(HWND window)
@@ -44,14 +59,7 @@ HWND SetParent(HWND window, HWND parent)
 
 HWND GetDlgItem(HWND dialog, int id)
 {
-    if (!isLive(dialog))
-        return nullptr;
-    for (QWidget* child : dialog->widget->findChildren<QWidget*>()) {
-        HWND window = existingHandle(child);
-        if (window && window->id == id && GetParent(window) == dialog)
-            return window;
-    }
-    return nullptr;
+    return isLive(dialog) ? childWithId(dialog->widget, id) : nullptr;
 }
 
 int GetDlgCtrlID(HWND window)
