@@ -23,11 +23,9 @@ public:
             throw std::runtime_error("no temporary directory for the measurement");
         }
         root = name;
-        orvhost::Settings settings;
         settings.dataDirectory = root.wstring();
         settings.libraryDirectory = std::filesystem::path(ORV_BINARY_DIR "/lib").wstring();
-        settings.serviceUrl = std::wstring(serviceUrl.begin(), serviceUrl.end());
-        orvhost::configure(settings);
+        setService(serviceUrl);
     }
     ~TemporaryData()
     {
@@ -39,8 +37,15 @@ public:
 
     std::filesystem::path const& directory() const { return root; }
 
+    void setService(std::string const& url)
+    {
+        settings.serviceUrl = std::wstring(url.begin(), url.end());
+        orvhost::configure(settings);
+    }
+
 private:
     std::filesystem::path root;
+    orvhost::Settings settings;
 };
 
 } // namespace orvbench

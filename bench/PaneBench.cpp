@@ -1,0 +1,243 @@
+// The feed pane with 100, 1,000 and 10,000 records that carry pictures: how long it takes to fill it for the first
+// time, to rebuild it, to load a feed whole and to scroll, and what it keeps in memory, beside the bare cost of parsing
+// the feed and reading the pictures' headers. Times are the processor's, since one thread does it all and others may
+// use the machine. Ends non-zero where an aim is missed: QT_QPA_PLATFORM=offscreen build/release/bin/bench_pane
+// Numbers of records as arguments measure these alone.
+
+#include "bench/Aims.h"
+#include "feed/FeedReader.h"
+#include "tests/ui/feed/FeedPaneFixture.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <functional>
+#include <malloc.h>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace
+{
+
+namespace codes = orv::HintCode;
+
+double processorMilliseconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+double timed(std::function<void()> const& work)
+{
+    double const start = processorMilliseconds();
+    work();
+    return processorMilliseconds() - start;
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+double residentMebibytes()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        if (word == "VmRSS:") {
+            double kibibytes = 0.0;
+            status >> kibibytes;
+            return kibibytes / 1024.0;
+        }
+    }
+    return 0.0;
+}
+
+/// A picture as the viewer takes one: soft shades and hard edges, 256 pixels square.
+std::string jpeg(int number)
+{
+    QImage image(256, 256, QImage::Format_RGB32);
+    image.fill(QColor(235, 238, 242));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (int i = 0; i < 24; ++i) {
+        QRadialGradient shade(90 + i * 5, 100 + i * 3, 60);
+        shade.setColorAt(0, QColor::fromHsv((number * 37 + i * 15) % 360, 120, 240));
+        shade.setColorAt(1, QColor::fromHsv((number * 37 + i * 15) % 360, 160, 90));
+        painter.setBrush(shade);
+        painter.drawEllipse(QPoint(30 + (i * 53 + number * 11) % 200, 30 + (i * 31) % 200), 12 + i, 10 + i);
+    }
+    painter.end();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "JPEG", 85);
+    return buffer.data().toStdString();
+}
+
+std::string feedOf(std::size_t count)
+{
+    constexpr int pictures = 32;
+    std::vector<std::wstring> uris;
+    for (int i = 0; i < pictures; ++i) {
+        uris.push_back(orvtest::dataUri(jpeg(i)));
+    }
+    std::vector<Feed> feeds;
+    for (std::size_t i = 0; i < count; ++i) {
+        Feed feed = orvtest::comment(L"The planet carrier touches the housing here; move it by two millimetres, " +
+                                     std::to_wstring(i));
+        feed.comment.objects.hidden = {1, 2, 3};
+        feed.thumbnail = uris[i % pictures];
+        feeds.push_back(std::move(feed));
+    }
+    return orvtest::feedJson(feeds);
+}
+
+struct Costs {
+    double parse = 0.0;   ///< milliseconds of processor time, as the next four
+    double headers = 0.0; ///< decoding the texts and reading the pictures' headers
+    double first = 0.0;   ///< hint 40 with a pool of 100 blocks
+    double rebuild = 0.0; ///< hint 40 again
+    double load = 0.0;    ///< of the first load what comes before hint 40: answers taken over, parse
+    double frame = 0.0;   ///< one step of scrolling, the median
+    double slowestFrame = 0.0;
+    double textMebibytes = 0.0; ///< of one copy of the feed
+    double grown = 0.0;         ///< MiB in memory with the feed on show
+    bool isWhole = false;
+};
+
+/// The pane in a window of its own, outside of any test.
+class PaneRun : public orvtest::FeedPaneTest
+{
+public:
+    Costs measure(std::size_t count)
+    {
+        std::string const answer = feedOf(count);
+        Costs costs;
+        measureBareCost(answer, costs);
+        malloc_trim(0); // or what the parse has left would hide what the pane takes
+        signIn();
+        frame.MoveWindow(0, 0, 340, 900);
+        frame.ShowWindow(SW_SHOW);
+        openPaneWithModel();
+        orvplatform::testing::processEvents();
+
+        double const before = residentMebibytes();
+        // The hint alone, apart from the requests and the parse before it.
+        application->notifier->deliver = [&](orv::IHint* hint) { costs.first = timed([&] { pane->OnUpdate(hint); }); };
+        expectFeedText(answer);
+        costs.load = timed([&] { pane->OnActivateChange(true); }) - costs.first;
+        orvplatform::testing::processEvents();
+        costs.grown = residentMebibytes() - before;
+        costs.isWhole = visibleBlocks() == static_cast<int>(count);
+        std::vector<double> rebuilds;
+        for (int i = 0; i < rounds; ++i) {
+            rebuilds.push_back(timed([&] { orvtest::sendHint(*pane, codes::feedReloaded, scene.document); }));
+            orvplatform::testing::processEvents();
+        }
+        costs.rebuild = median(rebuilds);
+        measureScrolling(costs);
+        return costs;
+    }
+
+private:
+    static constexpr int rounds = 3;
+
+    void TestBody() override {}
+
+    static void measureBareCost(std::string const& answer, Costs& costs)
+    {
+        std::wstring const response = orvtext::widenBytes(answer);
+        std::vector<double> parses;
+        std::vector<double> headers;
+        std::vector<Feed> feeds;
+        for (int i = 0; i < rounds; ++i) {
+            parses.push_back(timed([&] { feeds = FeedReader().read(response); }));
+            headers.push_back(timed([&] {
+                for (Feed const& feed : feeds) {
+                    std::string const bytes = decodeThumbnail(feed);
+                    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+                    QBuffer buffer(&data);
+                    buffer.open(QIODevice::ReadOnly);
+                    benchmarkSize = QImageReader(&buffer).size().width();
+                }
+            }));
+        }
+        for (Feed const& feed : feeds) {
+            costs.textMebibytes += static_cast<double>(feed.thumbnail.capacity() * sizeof(wchar_t)) / 1048576.0;
+        }
+        costs.parse = median(parses);
+        costs.headers = median(headers);
+    }
+
+    void measureScrolling(Costs& costs)
+    {
+        auto* const area = orvplatform::widgetOf(list())->findChild<QScrollArea*>();
+        QScrollBar& bar = *area->verticalScrollBar();
+        std::vector<double> frames;
+        constexpr int steps = 200;
+        for (int i = 0; i < steps; ++i) {
+            frames.push_back(timed([&] {
+                bar.setValue(i * 40 < bar.maximum() / 2 ? i * 40 : bar.maximum() - i * 40);
+                orvplatform::testing::processEvents();
+            }));
+        }
+        costs.frame = median(frames);
+        costs.slowestFrame = *std::max_element(frames.begin(), frames.end());
+    }
+
+    static inline volatile int benchmarkSize = 0; ///< keeps the reading from being left out
+};
+
+std::vector<std::size_t> argumentsOf(int argc, char** argv)
+{
+    std::vector<std::size_t> numbers;
+    for (int i = 1; i < argc; ++i) {
+        numbers.push_back(std::strtoul(argv[i], nullptr, 10));
+    }
+    return numbers;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    std::vector<std::size_t> const chosen = argumentsOf(argc, argv);
+    std::vector<std::size_t> const counts = chosen.empty() ? std::vector<std::size_t>{100, 1000, 10000} : chosen;
+    std::map<std::size_t, Costs> all;
+    std::printf("%8s %10s %10s %10s %10s %10s %9s %9s %10s %10s\n", "records", "parse ms", "headers ms", "first ms",
+                "rebuild ms", "load ms", "frame ms", "worst ms", "text MiB", "grown MiB");
+    for (std::size_t const count : counts) {
+        // Declared here so that each run's windows are gone before the next begins.
+        PaneRun run;
+        Costs const costs = all[count] = run.measure(count);
+        std::printf("%8zu %10.1f %10.1f %10.1f %10.1f %10.1f %9.2f %9.2f %10.1f %10.1f\n", count, costs.parse,
+                    costs.headers, costs.first, costs.rebuild, costs.load, costs.frame, costs.slowestFrame,
+                    costs.textMebibytes, costs.grown);
+        std::fflush(stdout);
+    }
+    if (!chosen.empty()) {
+        return 0; // aims are set for all sizes
+    }
+    constexpr double linear = 13.0; // ten times as many records, and what caches no longer hold
+    orvbench::Aims aims;
+    for (std::size_t const count : counts) {
+        aims.expect(std::to_string(count) + " records are all on show", all[count].isWhole);
+        aims.expectUnder(std::to_string(count) + " records, scrolling by one frame", all[count].frame, 1000.0 / 60.0,
+                         " ms");
+    }
+    aims.expectUnder("1,000 records rebuilt", all[1000].rebuild, 150.0, " ms");
+    aims.expectUnder("10,000 records rebuilt, times 1,000", all[10000].rebuild / all[1000].rebuild, linear, "");
+    aims.expectUnder("10,000 records shown first, times 1,000", all[10000].first / all[1000].first, linear, "");
+    return aims.exitStatus();
+}
