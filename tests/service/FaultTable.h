@@ -54,10 +54,10 @@ inline void PrintTo(Fault const& fault, std::ostream* out)
 class FaultTable : public testing::Test
 {
 protected:
-    explicit FaultTable(orvweb::TransferLimits const& limits = shortLimits());
+    explicit FaultTable(orvweb::TransferLimits const& limits = {});
     ~FaultTable() override;
 
-    /// Transfers are given up after a second.
+    /// Transfers are given up after two seconds.
     static orvweb::TransferLimits shortLimits();
     void SetUp() override;
 
@@ -74,6 +74,7 @@ private:
     void checkFiles(RequestRow const& request, Fault const& fault);
     void checkSecrets(RequestRow const& request, Fault const& fault);
 
+    orvweb::TransferLimits limits;
     std::filesystem::path modelFile;
     std::shared_ptr<orvweb::ITransport> transportBefore;
 };

@@ -2,7 +2,6 @@
 
 #include "tests/service/FaultTable.h"
 
-#include <fstream>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -28,6 +27,8 @@ std::vector<Fault> slowFaults()
 
 class SlowFaults : public orvtest::FaultTable, public testing::WithParamInterface<std::tuple<RequestRow, Fault>>
 {
+protected:
+    SlowFaults() : FaultTable(shortLimits()) {}
 };
 
 TEST_P(SlowFaults, EndWithinTheLimits)
