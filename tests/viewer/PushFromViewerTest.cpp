@@ -94,6 +94,18 @@ std::size_t coloursOf(QImage const& picture)
     return colours.size();
 }
 
+/// The background is a gradient from top to bottom, so each row of the left and the right edge has one colour where
+/// nothing of the model reaches them.
+bool isWholeIn(QImage const& picture)
+{
+    for (int y = 0; y < picture.height(); ++y) {
+        if (picture.pixel(0, y) != picture.pixel(picture.width() - 1, y)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 TEST_F(PushFromViewer, AModelWhoseFileIsGoneIsPushedAsItIsOpen)
@@ -127,6 +139,7 @@ TEST_F(PushFromViewer, ThePushWithPreviewSendsThePictureThatTheViewerMade)
                              "PNG"); // as which it was announced
         EXPECT_EQ(picture.size(), QSize(256, 256));
         EXPECT_GT(coloursOf(picture), 20U) << "the model is in it";
+        EXPECT_TRUE(isWholeIn(picture)) << "the model is cut off";
     }
 }
 
@@ -159,6 +172,7 @@ TEST_F(PushFromViewer, PreviewsAreShownInTheRecentFiles)
     ASSERT_EQ(menu->actions().size(), 2);
     EXPECT_EQ(menu->actions()[0]->text().toStdString(), "cubes.obj");
     EXPECT_TRUE(same(menu->actions()[0]->icon(), cubesPicture));
+    EXPECT_GE(menu->actionGeometry(menu->actions()[0]).height(), 48) << "too small to tell models apart";
     EXPECT_TRUE(same(menu->actions()[1]->icon(), gearsPicture));
     EXPECT_EQ(menu->actions()[1]->text().toStdString(), "gears && more.step") << "no letter is underlined";
     menu->actions()[1]->trigger();

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QPainter>
 #include <QPixmap>
+#include <QProxyStyle>
 
 #include <array>
 #include <utility>
@@ -42,6 +43,17 @@ QMenu* makeMenu(QWidget* parent)
     QObject::connect(menu, &QMenu::triggered, menu, &QMenu::hide);
     return menu;
 }
+
+/// Draws a menu's pictures large enough to tell models apart.
+class LargePictures final : public QProxyStyle
+{
+public:
+    LargePictures() : QProxyStyle("Fusion") {}
+    int pixelMetric(PixelMetric metric, QStyleOption const* option, QWidget const* widget) const override
+    {
+        return metric == PM_SmallIconSize ? 48 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 QIcon swatch(QColor const& colour)
 {
@@ -92,7 +104,9 @@ QMenu* makeRecentMenu(QWidget* parent, RecentFiles const& files, std::function<v
 {
     auto* menu = makeMenu(parent);
     menu->setToolTipsVisible(true);
-    menu->setStyleSheet("QMenu { icon-size: 48px; }");
+    auto* style = new LargePictures;
+    style->setParent(menu);
+    menu->setStyle(style);
     QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, &files, open] {
         menu->clear();
         for (auto const& path : files.paths()) {

@@ -254,7 +254,10 @@ void ViewerSession::State::savePreview()
 {
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(openDocument);
     auto const settings = std::exchange(renderer->settings, {false, false, false});
+    auto const camera = *renderer->camera;
+    fitWhole(openDocument, *renderer->camera, 1.0); // the view is wider than the picture
     recent.savePreview(openDocument, picture(previewSide, previewSide));
+    *renderer->camera = camera;
     renderer->settings = settings;
 }
 
