@@ -141,11 +141,6 @@ void fitWhole(std::shared_ptr<orv::IDocument> const& document, orvgl::Camera& ca
     fit(camera, outlinePoints(document, {}), aspect);
 }
 
-void fitWhole(std::shared_ptr<orv::IDocument> const& document, orvgl::Camera& camera, double aspect)
-{
-    fit(camera, outlinePoints(document, {}), aspect);
-}
-
 void setFirstView(std::shared_ptr<orv::IDocument> const& document, double aspect)
 {
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(document);

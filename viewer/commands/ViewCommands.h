@@ -19,9 +19,6 @@ bool isOrthographic(CommandContext const& context);
 /// Fits any camera to the whole model, for a picture of that width-to-height ratio; its direction stays.
 void fitWhole(std::shared_ptr<orv::IDocument> const& document, orvgl::Camera& camera, double aspect);
 
-/// Fits any camera to the whole model, for a picture of that width-to-height ratio; its direction stays.
-void fitWhole(std::shared_ptr<orv::IDocument> const& document, orvgl::Camera& camera, double aspect);
-
 /// The view in which a model opens: the one that its file brings, else isometric, fitted.
 void setFirstView(std::shared_ptr<orv::IDocument> const& document, double aspect);
 
