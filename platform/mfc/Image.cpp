@@ -4,6 +4,18 @@
 
 #include <QFile>
 
+namespace
+{
+HRESULT attachEncoded(CImage& image, const QByteArray& bytes)
+{
+    HBITMAP made = orvplatform::makeBitmap(bytes);
+    if (!made)
+        return E_FAIL;
+    image.Attach(made);
+    return S_OK;
+}
+} // namespace
+
 HRESULT CImage::Load(IStream* stream)
 {
     if (!stream)
@@ -16,22 +28,13 @@ HRESULT CImage::Load(IStream* stream)
             return E_FAIL;
         bytes.append(part, static_cast<qsizetype>(count));
     } while (count == sizeof part);
-    return attachEncoded(bytes);
+    return attachEncoded(*this, bytes);
 }
 
 HRESULT CImage::Load(LPCWSTR path)
 {
     QFile file(QString::fromWCharArray(path ? path : L""));
-    return file.open(QIODevice::ReadOnly) ? attachEncoded(file.readAll()) : E_FAIL;
-}
-
-HRESULT CImage::attachEncoded(const QByteArray& bytes)
-{
-    HBITMAP made = orvplatform::makeBitmap(bytes);
-    if (!made)
-        return E_FAIL;
-    Attach(made);
-    return S_OK;
+    return file.open(QIODevice::ReadOnly) ? attachEncoded(*this, file.readAll()) : E_FAIL;
 }
 
 int CImage::GetWidth() const

@@ -6,8 +6,6 @@
 
 #include <string>
 
-class QByteArray;
-
 // Owns its bitmap. Loading takes the formats that the system knows and reads the header, as far as that tells the size:
 // pixels are decoded when they are about to be seen. A picture whose sides or memory (64 MiB) are out of bounds is
 // refused.
@@ -30,7 +28,5 @@ public:
     operator HBITMAP() const { return bitmap; }
 
 private:
-    HRESULT attachEncoded(const QByteArray& bytes);
-
     HBITMAP bitmap = nullptr;
 };
