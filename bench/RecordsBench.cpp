@@ -124,7 +124,7 @@ Case reading(int records)
     auto const wide = std::make_shared<std::wstring>();
     return {{"Read/" + std::to_string(records), [=] { return parseBothLayers(*response) == count; },
              [=] { return FeedReader().read(*wide).size() == count; }},
-            std::max(5, 10000 / records),
+            std::clamp(20000 / records, 5, 100),
             [=] {
                 *response = responseOf(records);
                 *wide = orvtext::fromUtf8(*response);

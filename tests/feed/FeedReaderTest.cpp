@@ -184,6 +184,15 @@ TEST(FeedReader, ReadsMissingNumbersAsZeroAndIgnoresMore)
     }
 }
 
+TEST(FeedReader, ReadsNullInPlaceOfAListAsZeros)
+{
+    FeedObjects const objects =
+        readObjects(R"({"colored":[null,[1],[]],"nodetransform":{"1":null,"2":[]},"nodecolor":{"3":null}})");
+    EXPECT_THAT(objects.colored, ElementsAre(Vector3(), Vector3(1, 0, 0), Vector3()));
+    EXPECT_THAT(objects.nodetransform, ElementsAre(std::pair(1, Matrix4()), std::pair(2, Matrix4())));
+    EXPECT_THAT(objects.nodecolor, ElementsAre(std::pair(3, 0)));
+}
+
 TEST(FeedReader, CutsAFractionOffANode)
 {
     EXPECT_THAT(readObjects(R"({"hidden":[2.9]})").hidden, ElementsAre(2));

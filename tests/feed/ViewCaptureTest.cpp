@@ -1,8 +1,10 @@
 #include "feed/ViewCapture.h"
 
+#include "feed/FeedReader.h"
 #include "feed/FeedWriter.h"
 #include "feed/ForeignTimes.h"
 #include "feed/Thumbnail.h"
+#include "feed/ViewReplay.h"
 #include "host/orv/GUID.h"
 #include "host/orvsgutils/MaterialUtils.h"
 #include "host/runtime/IFrameRenderer.h"
@@ -29,6 +31,7 @@
 #include <utility>
 #include <vector>
 
+#include <json/json.h>
 #include <turbojpeg.h>
 
 using orvsgutils::MaterialUtils;
@@ -339,6 +342,33 @@ TEST_F(ViewCapture, TakesMovedNodesWithTheirMatrices)
     ASSERT_EQ(objects.nodetransform.size(), 1U);
     EXPECT_EQ(objects.nodetransform.at(4), scene.resources->transforms.getValue(4).matrix);
     EXPECT_EQ(objects.nodetransform.at(4)[14], 30.0F);
+}
+
+TEST_F(ViewCapture, ComesBackThroughItsTextIntoAnotherScene)
+{
+    scene.renderer->camera->eye = Vector3(0.1F, -7.25F, 1e6F);
+    scene.runtime->visibility[3] = false;
+    scene.moveTo(4, 1, 2, 30);
+    MaterialUtils::setNodeColor(1, 0x0000FF, scene.resources, scene.runtime, scene.topology);
+    MaterialUtils::setNodeTransparency(5, 0.5F, scene.resources, scene.runtime, scene.topology);
+    Feed const sent = capture(L"a \"remark\"\n\u65e5");
+
+    Json::Value response(Json::arrayValue);
+    response[0]["Content"] = orvtext::toUtf8(FeedWriter().write(sent));
+    std::vector<Feed> const received = FeedReader().read(orvtext::fromUtf8(response.toStyledString()));
+    ASSERT_EQ(received.size(), 1U);
+    Feed expected = sent;
+    expected.comment.objects.colored.clear();
+    EXPECT_EQ(received[0], expected);
+
+    orvtest::TestScene const other;
+    other.runtime->visibility[0] = false;
+    restoreView(other.document, received[0]);
+    scene.document = other.document;
+    Feed const again = capture();
+    EXPECT_EQ(again.comment.objects, sent.comment.objects);
+    EXPECT_EQ(again.comment.viewport, sent.comment.viewport);
+    EXPECT_NE(again.comment.id, sent.comment.id);
 }
 
 TEST_F(ViewCapture, LeavesTheSceneAlone)

@@ -97,14 +97,15 @@ public:
 private:
     static constexpr std::size_t deepest = 12;
 
-    /// A quarter turn about z, or none, and a shift.
+    /// A turn about z, or none, and a shift.
     orvsg::Transform placement()
     {
         orvsg::Transform result;
         if (below(2) == 0) {
-            result.matrix[0] = result.matrix[5] = 0.0F;
-            result.matrix[1] = 1.0F;
-            result.matrix[4] = -1.0F;
+            float const t = fraction() * 2.0F - 1.0F; // the tangent of half the angle
+            result.matrix[0] = result.matrix[5] = (1.0F - t * t) / (1.0F + t * t);
+            result.matrix[1] = 2.0F * t / (1.0F + t * t);
+            result.matrix[4] = -result.matrix[1];
         }
         for (unsigned char axis = 12; axis < 15; ++axis) {
             result.matrix[axis] = fraction() * 100.0F - 50.0F;
