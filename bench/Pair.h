@@ -21,15 +21,15 @@ public:
     void run(benchmark::State& state);
 
     std::string const& title() const { return name; }
-    double ratio() const { return ownMedian / plainMedian; } ///< of the medians; after run
+    double ratio() const { return ownTime / plainTime; } ///< of the lower quartiles; after run
     bool succeeded() const { return done; }
 
 private:
     std::string name;
     Work plain;
     Work own;
-    double plainMedian = 1.0; ///< seconds
-    double ownMedian = 0.0;
+    double plainTime = 1.0; ///< seconds
+    double ownTime = 0.0;
     bool done = false;
 };
 
