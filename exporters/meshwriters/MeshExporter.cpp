@@ -59,10 +59,11 @@ void MeshExporter::write(orvexport::Job const& job)
     exporter.SetIOHandler(output);
     exporter.SetProgressHandler(new ProgressBridge(job.progress));
     aiReturn const result = exporter.Export(scene.get(), format.assimpId, job.path.c_str());
-    output->finish();
+    output->check();
     if (result != aiReturn_SUCCESS) {
         throw orvexport::OutputError(exporter.GetErrorString());
     }
+    output->putOthersInPlace();
 }
 
 } // namespace meshwriters

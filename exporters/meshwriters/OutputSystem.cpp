@@ -82,11 +82,15 @@ void OutputSystem::Close(Assimp::IOStream* stream)
     delete stream;
 }
 
-void OutputSystem::finish()
+void OutputSystem::check() const
 {
     if (failure) {
         throw *failure;
     }
+}
+
+void OutputSystem::putOthersInPlace()
+{
     for (auto& [path, file] : others) {
         file->putInPlace();
     }

@@ -26,8 +26,10 @@ public:
     Assimp::IOStream* Open(char const* path, char const* mode) override;
     void Close(Assimp::IOStream* stream) override;
 
-    /// Throws the first failure. Puts the files beside the wanted one in place; that one is left to its owner.
-    void finish();
+    /// Throws the first failure, where there was one.
+    void check() const;
+    /// Puts the files beside the wanted one in place; that one is left to its owner.
+    void putOthersInPlace();
 
 private:
     std::filesystem::path main;
