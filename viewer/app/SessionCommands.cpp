@@ -257,7 +257,7 @@ void ViewerSession::State::addCommands()
 void ViewerSession::State::askForModel()
 {
     auto const filter = L"Models|" + patterns(readableExtensions()) + L"|STEP|*.step;*.stp;*.p21|IGES|*.iges;*.igs|" +
-                        L"BREP|*.brep;*.brp|STL|*.stl|OBJ|*.obj|glTF|*.gltf;*.glb||";
+                        L"BREP|*.brep;*.brp|STL|*.stl|OBJ|*.obj|glTF|*.gltf;*.glb|Orvanta|*.orvanta||";
     CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, filter.c_str());
     if (dialog.DoModal() == IDOK) {
         openModel(static_cast<wchar_t const*>(dialog.GetPathName()));
