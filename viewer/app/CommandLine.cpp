@@ -93,7 +93,7 @@ std::wstring usage()
            L"Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.\n\n"
            L"  --service URL      address of the cloud service\n"
            L"  --data DIR         where the user's data lies\n"
-           L"  --language CODE    language of the cloud panels, two letters\n"
+           L"  --language CODE    language of the windows, two letters\n"
            L"  --export OUT       write FILE to OUT in the format of its ending and exit; may be repeated\n"
            L"  --screenshot OUT   draw FILE to a picture (.png, .jpg) and exit\n"
            L"  --help             show this text and exit\n"

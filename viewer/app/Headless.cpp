@@ -3,6 +3,7 @@
 #include "platform/text/Text.h"
 #include "viewer/app/Exporting.h"
 #include "viewer/app/FrameRenderer.h"
+#include "viewer/app/Language.h"
 #include "viewer/app/VirtualDisplay.h"
 #include "viewer/commands/ViewCommands.h"
 #include "viewer/import/ModelImporter.h"
@@ -25,7 +26,7 @@ constexpr int heightInPixels = 960;
 
 void complain(std::wstring const& sentence)
 {
-    std::cerr << "orvanta: " << orvtext::toUtf8(sentence) << std::endl;
+    std::cerr << "orvanta: " << orvtext::toUtf8(localizedSentence(sentence)) << std::endl;
 }
 
 /// Draws the model off the screen for as long as this lives: pictures, and the posters of exporters.

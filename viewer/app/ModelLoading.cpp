@@ -1,6 +1,7 @@
 #include "viewer/app/ModelLoading.h"
 
 #include "host/orv/FileUtils.h"
+#include "viewer/app/Language.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/StatusLine.h"
 
@@ -22,7 +23,8 @@ constexpr int progressInterval = 50; ///< milliseconds
 ImportResult loadModel(std::wstring const& path, MainWindow& window)
 {
     auto& status = window.status();
-    status.showSentence(L"Opening \"" + orv::FileUtils::getStatusFileName(path.c_str()) + L"\"... Press Esc to stop.");
+    auto const name = QString::fromStdWString(orv::FileUtils::getStatusFileName(path.c_str()));
+    status.showSentence(localized("Opening \"%1\"... Press Esc to stop.").arg(name).toStdWString());
     status.showProgress(1, 1);
 
     ImportProgress progress;

@@ -32,6 +32,7 @@ ViewerPreferences ViewerPreferences::load()
         result.showViewCube = file.value("view/viewCube", result.showViewCube).toBool();
         result.startInPerspective = file.value("view/perspective", result.startInPerspective).toBool();
         result.showTree = file.value("window/tree", result.showTree).toBool();
+        result.language = file.value("window/language").toString().toStdWString();
     }
     return result;
 }
@@ -44,6 +45,7 @@ void ViewerPreferences::save() const
         file.setValue("view/viewCube", showViewCube);
         file.setValue("view/perspective", startInPerspective);
         file.setValue("window/tree", showTree);
+        file.setValue("window/language", QString::fromStdWString(language));
     }
 }
 

@@ -11,6 +11,7 @@ struct ViewerPreferences {
     bool showViewCube = true;
     bool startInPerspective = true;
     bool showTree = true;
+    std::wstring language; ///< two letters; empty for the system's
 
     static ViewerPreferences load(); ///< defaults where there is no file
     void save() const;

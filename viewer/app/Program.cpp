@@ -6,6 +6,7 @@
 #include "platform/text/Text.h"
 #include "viewer/app/CommandLine.h"
 #include "viewer/app/Headless.h"
+#include "viewer/app/Language.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/ViewerSession.h"
 
@@ -28,7 +29,7 @@ orvhost::Settings settingsFor(CommandLine const& line)
     orvhost::Settings settings;
     settings.dataDirectory = line.dataDirectory;
     settings.serviceUrl = line.serviceUrl;
-    settings.language = line.language.empty() ? systemLanguage() : line.language;
+    settings.language = line.language;
     settings.libraryDirectory = QDir(QCoreApplication::applicationDirPath() + "/../lib").absolutePath().toStdWString();
     return settings;
 }
@@ -74,6 +75,8 @@ int runProgram(int count, char** arguments)
     QApplication::setApplicationVersion(ORVANTA_VERSION);
     auto settings = settingsFor(line);
     if (line.isHeadless()) {
+        settings.language = chooseLanguage(line.language, {});
+        useViewerLanguage(settings.language);
         orvhost::configure(std::move(settings));
         return runHeadless(line);
     }

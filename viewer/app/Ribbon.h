@@ -32,7 +32,7 @@ public:
     void refresh();
 
 private:
-    void addPanel(CMFCRibbonCategory& category, wchar_t const* title, std::initializer_list<CommandId> ids);
+    void addPanel(CMFCRibbonCategory& category, char const* title, std::initializer_list<CommandId> ids);
 
     CommandTable& commands;
     CMFCRibbonBar bar;

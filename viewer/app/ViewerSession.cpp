@@ -11,6 +11,7 @@
 #include "platform/qt/Native.h"
 #include "viewer/app/Exporting.h"
 #include "viewer/app/FrameRenderer.h"
+#include "viewer/app/Language.h"
 #include "viewer/app/ModelLoading.h"
 #include "viewer/app/ModelTree.h"
 #include "viewer/app/ModelView.h"
@@ -49,8 +50,12 @@ void* displayOfToolkit()
 ViewerSession::State::State(orvhost::Settings settings)
 {
     loadPictures();
-    orvhost::configure(std::move(settings));
+    auto const asked = settings.language;
+    orvhost::configure(settings); // the preferences are found by it
     preferences = ViewerPreferences::load();
+    settings.language = chooseLanguage(asked, preferences.language);
+    useViewerLanguage(settings.language);
+    orvhost::configure(std::move(settings));
     barrier = std::make_shared<Barrier>([this](std::wstring const& sentence) { showStatus(sentence); });
     notifier = std::make_shared<ViewNotifier>(barrier);
     window = std::make_unique<MainWindow>();
@@ -64,7 +69,8 @@ ViewerSession::State::State(orvhost::Settings settings)
     notifier->add(this, [this](orv::IHint* hint) { follow(*hint); });
     plugins = std::make_unique<PluginHost>(PluginHost::Services{barrier, notifier, application,
                                                                 [this](std::wstring const& sentence) {
-                                                                    pluginProblems += L" " + sentence;
+                                                                    pluginProblems +=
+                                                                        L" " + localizedSentence(sentence);
                                                                     showStatus(sentence);
                                                                 },
                                                                 orvplatform::handleOf(window.get())});
@@ -140,7 +146,7 @@ void ViewerSession::State::select(std::set<int> const& nodes)
 
 void ViewerSession::State::showStatus(std::wstring const& sentence)
 {
-    window->status().showSentence(sentence);
+    window->status().showSentence(localizedSentence(sentence));
 }
 
 void ViewerSession::State::raise(short hintCode)
@@ -192,7 +198,7 @@ bool ViewerSession::State::openModel(std::wstring const& path)
     auto const name = orv::FileUtils::getStatusFileName(info->file());
     closeModel();
     // What kept a plug-in out was said before there was a model; it is said once more where a user looks now.
-    showStatus(L"\"" + name + L"\" is open." + std::exchange(pluginProblems, {}));
+    showStatus(localizedSentence(L"\"" + name + L"\" is open.") + std::exchange(pluginProblems, {}));
     window->showModel(QString::fromStdWString(name));
     showDocument(result.document);
     savePreview(); // before the list names it

@@ -1,0 +1,543 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>Orvanta</name>
+    <message>
+        <source>Show the axis cross</source>
+        <translation>Achsenkreuz anzeigen</translation>
+    </message>
+    <message>
+        <source>Show the view cube</source>
+        <translation>Ansichtswürfel anzeigen</translation>
+    </message>
+    <message>
+        <source>Open models in perspective</source>
+        <translation>Modelle perspektivisch öffnen</translation>
+    </message>
+    <message>
+        <source>Show the model tree</source>
+        <translation>Modellbaum anzeigen</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>&amp;Other colour...</source>
+        <translation>&amp;Andere Farbe...</translation>
+    </message>
+    <message>
+        <source>&amp;As in the file</source>
+        <translation>&amp;Wie in der Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Opaque</source>
+        <translation>&amp;Undurchsichtig</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>No model was opened yet</source>
+        <translation>Noch kein Modell wurde geöffnet</translation>
+    </message>
+    <message>
+        <source>Open a model</source>
+        <translation>Ein Modell öffnen</translation>
+    </message>
+    <message>
+        <source>STEP, IGES, BREP, STL, OBJ or glTF. Drop a file here, or choose one.</source>
+        <translation>STEP, IGES, BREP, STL, OBJ oder glTF. Legen Sie eine Datei hier ab, oder wählen Sie eine aus.</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open one of the models opened last</source>
+        <translation>Eines der zuletzt geöffneten Modelle öffnen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close the model</source>
+        <translation>Das Modell schließen</translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Save the model in another format</source>
+        <translation>Das Modell in einem anderen Format speichern</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Save a picture of the view</source>
+        <translation>Ein Bild der Ansicht speichern</translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation>Einpassen</translation>
+    </message>
+    <message>
+        <source>Show the whole model</source>
+        <translation>Das ganze Modell zeigen</translation>
+    </message>
+    <message>
+        <source>Fit selection</source>
+        <translation>Auswahl einpassen</translation>
+    </message>
+    <message>
+        <source>Show the selected parts</source>
+        <translation>Die ausgewählten Teile zeigen</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Bring the model nearer</source>
+        <translation>Das Modell näher holen</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Take the model away</source>
+        <translation>Das Modell weiter weg rücken</translation>
+    </message>
+    <message>
+        <source>Perspective</source>
+        <translation>Perspektive</translation>
+    </message>
+    <message>
+        <source>Change between perspective and parallel projection</source>
+        <translation>Zwischen perspektivischer und paralleler Projektion wechseln</translation>
+    </message>
+    <message>
+        <source>Front</source>
+        <translation>Vorne</translation>
+    </message>
+    <message>
+        <source>Look from the front</source>
+        <translation>Von vorne ansehen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Hinten</translation>
+    </message>
+    <message>
+        <source>Look from the back</source>
+        <translation>Von hinten ansehen</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Look from the left</source>
+        <translation>Von links ansehen</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Look from the right</source>
+        <translation>Von rechts ansehen</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Look from the top</source>
+        <translation>Von oben ansehen</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Look from below</source>
+        <translation>Von unten ansehen</translation>
+    </message>
+    <message>
+        <source>Isometric</source>
+        <translation>Isometrisch</translation>
+    </message>
+    <message>
+        <source>Look from a corner</source>
+        <translation>Von einer Ecke aus ansehen</translation>
+    </message>
+    <message>
+        <source>Hide</source>
+        <translation>Ausblenden</translation>
+    </message>
+    <message>
+        <source>Hide the selected parts</source>
+        <translation>Die ausgewählten Teile ausblenden</translation>
+    </message>
+    <message>
+        <source>Isolate</source>
+        <translation>Isolieren</translation>
+    </message>
+    <message>
+        <source>Show nothing but the selected parts</source>
+        <translation>Nur die ausgewählten Teile zeigen</translation>
+    </message>
+    <message>
+        <source>Show all</source>
+        <translation>Alle anzeigen</translation>
+    </message>
+    <message>
+        <source>Show all parts</source>
+        <translation>Alle Teile anzeigen</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Colour the selected parts</source>
+        <translation>Die ausgewählten Teile einfärben</translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>Make the selected parts transparent</source>
+        <translation>Die ausgewählten Teile durchsichtig machen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Move the selected parts</source>
+        <translation>Die ausgewählten Teile verschieben</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Undo all hiding, colouring, transparency and moving</source>
+        <translation>Alles Ausblenden, Einfärben, Durchsichtigmachen und Verschieben rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select the whole model</source>
+        <translation>Das ganze Modell auswählen</translation>
+    </message>
+    <message>
+        <source>Select nothing</source>
+        <translation>Nichts auswählen</translation>
+    </message>
+    <message>
+        <source>Clear the selection</source>
+        <translation>Die Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Change the options</source>
+        <translation>Die Optionen ändern</translation>
+    </message>
+    <message>
+        <source>Model tree</source>
+        <translation>Modellbaum</translation>
+    </message>
+    <message>
+        <source>Show or hide the model tree</source>
+        <translation>Den Modellbaum ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Side bar</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>Show or hide the side bar</source>
+        <translation>Die Seitenleiste ein- oder ausblenden</translation>
+    </message>
+    <message>
+        <source>Next pane</source>
+        <translation>Nächster Bereich</translation>
+    </message>
+    <message>
+        <source>Go from the model tree to the view and back</source>
+        <translation>Vom Modellbaum zur Ansicht gehen und zurück</translation>
+    </message>
+    <message>
+        <source>%1 parts</source>
+        <translation>%1 Teile</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>&amp;Back to start</source>
+        <translation>&amp;Zurück an den Anfang</translation>
+    </message>
+    <message>
+        <source>Model view</source>
+        <translation>Modellansicht</translation>
+    </message>
+    <message>
+        <source>The model can&apos;t be drawn: there is no display with OpenGL.</source>
+        <translation>Das Modell kann nicht gezeichnet werden: Es gibt keinen Bildschirm mit OpenGL.</translation>
+    </message>
+    <message>
+        <source>Find a part</source>
+        <translation>Ein Teil suchen</translation>
+    </message>
+    <message>
+        <source>No model</source>
+        <translation>Kein Modell</translation>
+    </message>
+    <message>
+        <source>%1 parts   %2 triangles</source>
+        <translation>%1 Teile   %2 Dreiecke</translation>
+    </message>
+    <message>
+        <source>%1 selected</source>
+        <translation>%1 ausgewählt</translation>
+    </message>
+    <message>
+        <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
+        <translation>Dieser Bereich steht in einem eigenen Fenster. Schließen Sie es, um ihn zurückzuholen.</translation>
+    </message>
+    <message>
+        <source>Show this pane in a window of its own</source>
+        <translation>Diesen Bereich in einem eigenen Fenster zeigen</translation>
+    </message>
+    <message>
+        <source>Keep the side bar open</source>
+        <translation>Die Seitenleiste offen halten</translation>
+    </message>
+    <message>
+        <source>Hide the side bar while it is not used</source>
+        <translation>Die Seitenleiste ausblenden, solange sie nicht gebraucht wird</translation>
+    </message>
+    <message>
+        <source>Show the panels before</source>
+        <translation>Die vorherigen Gruppen zeigen</translation>
+    </message>
+    <message>
+        <source>Show the panels behind</source>
+        <translation>Die folgenden Gruppen zeigen</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Standard views</source>
+        <translation>Standardansichten</translation>
+    </message>
+    <message>
+        <source>Parts</source>
+        <translation>Teile</translation>
+    </message>
+    <message>
+        <source>The picture can&apos;t be drawn: there is no display with OpenGL.</source>
+        <translation>Das Bild kann nicht gezeichnet werden: Es gibt keinen Bildschirm mit OpenGL.</translation>
+    </message>
+    <message>
+        <source>There is nothing to draw. Open a model first.</source>
+        <translation>Es gibt nichts zu zeichnen. Öffnen Sie zuerst ein Modell.</translation>
+    </message>
+    <message>
+        <source>No exporter is installed. Install Orvanta again and start it anew.</source>
+        <translation>Es ist kein Exportmodul installiert. Installieren Sie Orvanta erneut und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The action was broken off by an unexpected error. Try again.</source>
+        <translation>Der Vorgang wurde durch einen unerwarteten Fehler abgebrochen. Versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>Opening &quot;%1&quot;... Press Esc to stop.</source>
+        <translation>„%1“ wird geöffnet... Esc bricht ab.</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>The system&apos;s language</source>
+        <translation>Sprache des Systems</translation>
+    </message>
+    <message>
+        <source>The new language is used when Orvanta is started again.</source>
+        <translation>Die neue Sprache gilt ab dem nächsten Start von Orvanta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; doesn&apos;t exist. Check the path or choose another file.</source>
+        <translation>„%1“ gibt es nicht. Prüfen Sie den Pfad, oder wählen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Choose a model file in it.</source>
+        <translation>„%1“ ist ein Ordner. Wählen Sie darin eine Modelldatei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is of a type that can&apos;t be opened. Open STEP, IGES, BREP, STL, OBJ, glTF or Orvanta files.</source>
+        <translation>„%1“ ist von einer Art, die nicht geöffnet werden kann. Öffnen Sie STEP-, IGES-, BREP-, STL-, OBJ-, glTF- oder Orvanta-Dateien.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read. Check that you may read it and that it isn&apos;t in use.</source>
+        <translation>„%1“ kann nicht gelesen werden. Prüfen Sie, ob Sie die Datei lesen dürfen und ob sie in Gebrauch ist.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is empty. Export the model again and open the new file.</source>
+        <translation>„%1“ ist leer. Exportieren Sie das Modell erneut, und öffnen Sie die neue Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; ends too early: a part of it is missing. Copy or export the file again.</source>
+        <translation>„%1“ endet zu früh: Ein Teil fehlt. Kopieren oder exportieren Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t what its ending says. Check the file, or export the model again.</source>
+        <translation>„%1“ ist nicht, was die Endung sagt. Prüfen Sie die Datei, oder exportieren Sie das Modell erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be read: its content is damaged. Export the model again and open the new file.</source>
+        <translation>„%1“ kann nicht gelesen werden: Der Inhalt ist beschädigt. Exportieren Sie das Modell erneut, und öffnen Sie die neue Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; isn&apos;t whole: entries that others refer to are missing. Copy or export the file again.</source>
+        <translation>„%1“ ist nicht vollständig: Es fehlen Einträge, auf die andere verweisen. Kopieren oder exportieren Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <source>Opening &quot;%1&quot; was stopped.</source>
+        <translation>Das Öffnen von „%1“ wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; holds no part with surfaces. Export the model with its solids and open the new file.</source>
+        <translation>„%1“ enthält kein Teil mit Flächen. Exportieren Sie das Modell mit seinen Volumenkörpern, und öffnen Sie die neue Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; needs more memory than there is. Close other programs and try again.</source>
+        <translation>„%1“ braucht mehr Speicher, als vorhanden ist. Schließen Sie andere Programme, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be opened. Check the file and try again.</source>
+        <translation>„%1“ kann nicht geöffnet werden. Prüfen Sie die Datei, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is open.</source>
+        <translation>„%1“ ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was saved.</source>
+        <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: it is a folder. Choose a name for the file.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Es ist ein Ordner. Wählen Sie einen Namen für die Datei.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its folder doesn&apos;t exist. Choose another folder.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Den Ordner gibt es nicht. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: it is protected against writing. Choose another name.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Die Datei ist schreibgeschützt. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: you may not write to its folder. Choose another folder.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Sie dürfen nicht in den Ordner schreiben. Wählen Sie einen anderen Ordner.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the disk is full. Make room, or choose another disk.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Datenträger ist voll. Schaffen Sie Platz, oder wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
+        <translation>„%1“ kann nicht geschrieben werden. Prüfen Sie den Ordner und den freien Platz, oder wählen Sie einen anderen Ort.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written. Check the folder and that the name ends in .png or .jpg.</source>
+        <translation>„%1“ kann nicht geschrieben werden. Prüfen Sie den Ordner und ob der Name auf .png oder .jpg endet.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: its exporter isn&apos;t installed. Choose another format.</source>
+        <translation>„%1“ kann nicht gespeichert werden: Das Exportmodul ist nicht installiert. Wählen Sie ein anderes Format.</translation>
+    </message>
+    <message>
+        <source>There is nothing to save in this format. Open a model with parts first.</source>
+        <translation>In diesem Format gibt es nichts zu speichern. Öffnen Sie zuerst ein Modell mit Teilen.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is missing. Install Orvanta again and start it anew.</source>
+        <translation>Die Bibliothek „%1“ fehlt. Installieren Sie Orvanta erneut und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; lacks the function &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>Der Bibliothek „%1“ fehlt die Funktion „%2“. Installieren Sie Orvanta erneut und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; made no plug-in. The viewer works on without it; install the plug-in again to get it back.</source>
+        <translation>Die Bibliothek „%1“ hat kein Zusatzmodul geliefert. Das Programm arbeitet ohne es weiter; installieren Sie es erneut, um es zurückzubekommen.</translation>
+    </message>
+    <message>
+        <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
+        <translation>Der Bildschirm bietet kein OpenGL. Installieren Sie einen Grafiktreiber oder den Softwaretreiber von Mesa.</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Start the viewer from a desktop session.</source>
+        <translation>Es gibt keinen Bildschirm zum Zeichnen. Starten Sie das Programm aus einer Desktopsitzung.</translation>
+    </message>
+</context>
+</TS>
