@@ -11,6 +11,7 @@
 #include "host/orvui/Hint.h"
 #include "viewer/app/CommandTable.h"
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/Preferences.h"
 #include "viewer/app/RecentFiles.h"
 #include "viewer/commands/CommandId.h"
 #include "viewer/commands/PartCommands.h"
@@ -220,6 +221,21 @@ TEST_F(SessionTest, ViewCommandsMoveTheCameraRecord)
     auto const distance = renderer->camera->target[1] - renderer->camera->eye[1];
     EXPECT_TRUE(session->runCommand(orvviewer::zoomIn));
     EXPECT_LT(renderer->camera->target[1] - renderer->camera->eye[1], distance);
+}
+
+TEST_F(SessionTest, OpensFittedInEitherProjection)
+{
+    open();
+    auto const fitted = *orv::recordOf<orvgl::SCRenderer>(session->document())->camera;
+    EXPECT_FALSE(fitted.orthographic);
+    auto preferences = orvviewer::ViewerPreferences::load();
+    preferences.startInPerspective = false;
+    preferences.save();
+    open();
+    auto camera = *orv::recordOf<orvgl::SCRenderer>(session->document())->camera;
+    EXPECT_TRUE(camera.orthographic);
+    camera.orthographic = false;
+    EXPECT_EQ(camera, fitted);
 }
 
 TEST_F(SessionTest, CommandsNeedWhatTheyWorkOn)

@@ -166,10 +166,10 @@ void ViewerSession::State::showDocument(std::shared_ptr<orv::Document> const& do
     link->application = application;
     document->setSchema(orv::SCApplication::key, std::move(link));
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(document);
-    renderer->camera->orthographic = !preferences.startInPerspective;
     renderer->settings.showAxisCross = preferences.showAxisCross;
     renderer->settings.showViewCube = preferences.showViewCube;
-    setFirstView(document, pictureAspect());
+    setFirstView(document, pictureAspect()); // an untouched camera is what it looks for
+    renderer->camera->orthographic = !preferences.startInPerspective;
 
     openDocument = document;
     if (display) {
