@@ -80,6 +80,9 @@ QSize RibbonToolButton::sizeOf(RibbonLevel of) const
 {
     const QFontMetrics metrics = fontMetrics();
     const QSize picture = pictureSize(of);
+    if (of == RibbonLevel::Icons)
+        return {picture.width() + 2 * measures::grid,
+                std::max(metrics.height() + 2, measures::smallIcon + measures::grid)};
     if (of == RibbonLevel::Small)
         return {measures::grid + picture.width() + measures::grid + metrics.horizontalAdvance(what.text) + 2 * side,
                 std::max(metrics.height() + 2, measures::smallIcon + measures::grid)};
@@ -93,7 +96,9 @@ void RibbonToolButton::showAs(RibbonLevel wanted)
 {
     level = wanted;
     const bool large = level == RibbonLevel::Large;
-    setToolButtonStyle(large ? Qt::ToolButtonTextUnderIcon : Qt::ToolButtonTextBesideIcon);
+    setToolButtonStyle(large                         ? Qt::ToolButtonTextUnderIcon
+                       : level == RibbonLevel::Small ? Qt::ToolButtonTextBesideIcon
+                                                     : Qt::ToolButtonIconOnly);
     setIcon(large || what.small.isNull() ? what.large : what.small);
     setIconSize(pictureSize(level));
     update();
@@ -125,6 +130,8 @@ void RibbonToolButton::paintEvent(QPaintEvent*)
     }
     const QRect place(measures::grid, (height() - size.height()) / 2, size.width(), size.height());
     style()->drawItemPixmap(&painter, place, Qt::AlignCenter, picture);
+    if (level == RibbonLevel::Icons)
+        return;
     const QRect text = rect().adjusted(place.right() + 1 + measures::grid, 0, 0, 0);
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, what.text);
     if (menu())

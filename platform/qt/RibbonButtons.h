@@ -7,8 +7,9 @@
 
 namespace orvplatform
 {
-// Large: picture over a caption of one or two lines. Small: picture before the caption, three in a column.
-enum class RibbonLevel { Large, Small };
+// Large: picture over a caption of one or two lines. Small: picture before the caption, three in a column. Icons: the
+// same without captions.
+enum class RibbonLevel { Large, Small, Icons };
 
 class RibbonToolButton final : public QToolButton
 {

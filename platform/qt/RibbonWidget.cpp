@@ -79,9 +79,10 @@ private:
         });
         for (RibbonGroup* panel : panels)
             panel->showAs(RibbonLevel::Large);
-        for (RibbonGroup* panel : order)
-            if (total() > width() && panel->widthAs(RibbonLevel::Small) < panel->widthAs(RibbonLevel::Large))
-                panel->showAs(RibbonLevel::Small);
+        for (const RibbonLevel level : {RibbonLevel::Small, RibbonLevel::Icons})
+            for (RibbonGroup* panel : order)
+                if (total() > width() && panel->widthAs(level) < panel->widthAs(panel->shownAs()))
+                    panel->showAs(level);
         int x = 0;
         for (RibbonGroup* panel : panels) {
             const int panelWidth = panel->widthAs(panel->shownAs());

@@ -1,8 +1,8 @@
 #pragma once
 // The drawing side of the ribbon: tabs over one row of titled panels. Where the row is too long, panels turn one by one
-// into columns of three small buttons, those with most buttons first; a row that is still too long scrolls. The height
-// is always the same, and no state of a button changes a size. F10 goes to the first button, Tab and the arrows from
-// one to the next, Enter and the space bar press it, Escape goes back.
+// into columns of three small buttons, those with most buttons first, then lose their captions; a row that is still too
+// long scrolls. The height is always the same, and no state of a button changes a size. F10 goes to the first button,
+// Tab and the arrows from one to the next, Enter and the space bar press it, Escape goes back.
 
 #include "winuser.h"
 

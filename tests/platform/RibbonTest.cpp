@@ -180,7 +180,7 @@ TEST_F(Ribbon, CollapsesThePanelsWithMostButtonsFirst)
     fillPanels();
     const std::vector<UINT> first{1, 8, 13, 15}; // a button of each panel: seven, five, two, and the inserted one
     std::vector<UINT> collapsed;
-    for (int width = 3000; width > 300; width -= 20) {
+    for (int width = 3000; width > 300 && collapsed.size() < first.size(); width -= 20) {
         setWidth(width);
         for (const UINT id : first) {
             const bool isSmall = button(id).toolButtonStyle() == Qt::ToolButtonTextBesideIcon;
@@ -197,6 +197,22 @@ TEST_F(Ribbon, CollapsesThePanelsWithMostButtonsFirst)
         EXPECT_LE(each.geometry().bottom(), button(3).geometry().bottom()) << id;
     }
     EXPECT_LT(button(1).geometry().bottom(), button(2).y() + 1);
+}
+
+TEST_F(Ribbon, DropsTheCaptionsWhereColumnsAreStillTooWide)
+{
+    fillPanels();
+    setWidth(320);
+    for (UINT id = 1; id <= 7; ++id) {
+        const QToolButton& each = button(id);
+        EXPECT_EQ(each.toolButtonStyle(), Qt::ToolButtonIconOnly) << id;
+        EXPECT_LT(each.width(), 32) << id;
+        EXPECT_EQ(each.y(), button(id > 3 ? id - 3 : id).y()) << id;
+        EXPECT_FALSE(each.toolTip().isEmpty()) << id;
+        EXPECT_FALSE(each.accessibleName().isEmpty()) << id;
+    }
+    setWidth(3000);
+    EXPECT_EQ(button(1).toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
 }
 
 TEST_F(Ribbon, KeepsItsMeasuresWhateverAButtonsState)
@@ -223,7 +239,7 @@ TEST_F(Ribbon, KeepsItsMeasuresWhateverAButtonsState)
 TEST_F(Ribbon, ScrollsARowThatIsTooLong)
 {
     fillPanels();
-    setWidth(300);
+    setWidth(200);
     const auto isInView = [this](UINT id) {
         const QWidget& row = *orvplatform::widgetOf(ribbon.m_hWnd);
         const QToolButton& each = button(id);
