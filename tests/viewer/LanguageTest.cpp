@@ -220,6 +220,14 @@ TEST_F(LanguageTest, EveryLanguageHasARibbonOfItsOwn)
         EXPECT_EQ(std::wstring(panel->GetElement(0)->GetToolTipText().GetString())
                       .rfind(translations.at("Open a model").toStdWString(), 0),
                   0U);
+        // To be looked at, in pictures/ of the build.
+        auto& window = session->window();
+        window.resize(1440, 760);
+        window.show();
+        orvplatform::testing::processEvents();
+        auto const pictures = QStringLiteral(ORV_BINARY_DIR "/pictures");
+        EXPECT_TRUE(QDir().mkpath(pictures));
+        EXPECT_TRUE(window.grab().save(pictures + "/viewer-" + QString::fromStdString(code) + ".png"));
     }
 }
 

@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Open a model</source>
-        <translation>Ein Modell öffnen</translation>
+        <translation>Modell öffnen</translation>
     </message>
     <message>
         <source>STEP, IGES, BREP, STL, OBJ or glTF. Drop a file here, or choose one.</source>
@@ -321,7 +321,7 @@
     </message>
     <message>
         <source>Find a part</source>
-        <translation>Ein Teil suchen</translation>
+        <translation>Teil suchen</translation>
     </message>
     <message>
         <source>No model</source>

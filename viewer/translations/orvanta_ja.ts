@@ -57,7 +57,7 @@
     </message>
     <message>
         <source>Recent</source>
-        <translation>最近使用したファイル</translation>
+        <translation>最近のファイル</translation>
     </message>
     <message>
         <source>Message</source>
