@@ -12,6 +12,7 @@
 #include "host/orvsgutils/SceneQuery.h"
 #include "support/TestScene.h"
 #include "viewer/ModelFixture.h"
+#include "viewer/commands/ViewCommands.h"
 #include "viewer/scene/EdgeRecord.h"
 
 #include <algorithm>
@@ -159,6 +160,23 @@ TEST_F(NativeFile, WhatTheUserDidToTheViewComesBack)
     auto const again = importFile(file);
     ASSERT_TRUE(again.document) << testing::PrintToString(again.error);
     expectSameModel(scene.document, again.document);
+}
+
+TEST_F(NativeFile, OpensInItsOwnViewAndOthersFitted)
+{
+    TestScene scene;
+    scene.renderer->camera->eye = {1.5F, 2.5F, 300.F};
+    ASSERT_EQ(save(scene.document), orvexp::Status::ok);
+    auto const again = importFile(file);
+    ASSERT_TRUE(again.document);
+    orvviewer::setFirstView(again.document, 1.5);
+    EXPECT_EQ(*Records(again.document).renderer->camera, *scene.renderer->camera);
+
+    TestScene fresh; // nobody has looked at it yet
+    ASSERT_EQ(save(fresh.document), orvexp::Status::ok);
+    auto const fitted = importFile(file);
+    orvviewer::setFirstView(fitted.document, 1.5);
+    EXPECT_NE(*Records(fitted.document).renderer->camera, orvgl::Camera());
 }
 
 TEST_F(NativeFile, AnyMatrixComesBackExactly)
