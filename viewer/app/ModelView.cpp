@@ -107,6 +107,11 @@ void ModelView::redrawNow()
     }
 }
 
+int ModelView::frames() const
+{
+    return display ? display->screenFrames() : 0;
+}
+
 QPaintEngine* ModelView::paintEngine() const
 {
     return canDraw() ? nullptr : QWidget::paintEngine();

@@ -28,6 +28,7 @@ public:
     /// The camera record that the hands move; null without a document.
     void setCamera(std::shared_ptr<orvgl::Camera> camera);
     void redrawNow();
+    int frames() const; ///< drawn so far, for tests and measurements
     double aspect() const;
 
 signals:

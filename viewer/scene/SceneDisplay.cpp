@@ -95,6 +95,7 @@ struct SceneDisplay::State {
     std::set<int> selection;
     int screenWidth = 0; ///< of the window when it was last looked at, pixels
     int screenHeight = 0;
+    int screenFrames = 0;
     bool isDark = false;
     bool isCoarse = false;
     bool isSoftware = false;
@@ -173,6 +174,7 @@ void SceneDisplay::State::drawScreen()
     screenView->InvalidateImmediate();
     auto const start = std::chrono::steady_clock::now();
     screenView->Redraw();
+    ++screenFrames;
     if (isCoarse) {
         isSlow = isSlow || std::chrono::steady_clock::now() - start > smoothFrame;
     }
@@ -395,6 +397,11 @@ bool SceneDisplay::drawFrame(unsigned int width, unsigned int height, bool white
 int SceneDisplay::displayedCount() const
 {
     return state->presentations->displayedCount();
+}
+
+int SceneDisplay::screenFrames() const
+{
+    return state->screenFrames;
 }
 
 } // namespace orvviewer

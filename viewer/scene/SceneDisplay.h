@@ -56,6 +56,8 @@ public:
 
     /// Number of objects on display, for tests.
     int displayedCount() const;
+    /// Number of frames drawn in windows so far, for tests and measurements.
+    int screenFrames() const;
 
 private:
     struct State;
