@@ -40,7 +40,7 @@ TEST_F(Downloads, EachOutputOfTheFeedIsTakenByOneExporterAndWritten)
 TEST_F(Downloads, NativeFileOfAPushIsTakenByTheFirstOfTheList)
 {
     ASSERT_FALSE(manager->plugins().empty());
-    EXPECT_TRUE(manager->plugins().front()->takes(L"/tmp/orvanta/gearbox.orvanta"));
+    EXPECT_TRUE(manager->plugins().front()->takes(L"/models/orvanta/gearbox.orvanta"));
     auto const file = session.path("gearbox.orvanta");
     auto const exporter = manager->getPlugin(file.c_str());
     ASSERT_TRUE(exporter);
