@@ -11,7 +11,7 @@ Sharer::~Sharer() = default;
 
 ErrorCode Sharer::share(OmniInfo const& request, IStatusUpdator* updater)
 {
-    return orvweb::exchange("Sharer::share", root, request, orvweb::HttpRequest::Kind::form, updater);
+    return orvweb::exchange("Sharer::share", root, request, orvweb::HttpRequest::Kind::formOnce, updater);
 }
 
 } // namespace orv

@@ -234,11 +234,14 @@ try {
             return failure(orv::ErrorCode::unreadableFile);
         }
         curl_easy_setopt(handle, CURLOPT_MIMEPOST, mime.get());
-        // No file is sent twice: on a kept connection that ends without an answer libcurl would begin again by itself.
-        curl_easy_setopt(handle, CURLOPT_FRESH_CONNECT, 1L);
     } else {
         curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(fields.size()));
         curl_easy_setopt(handle, CURLOPT_POSTFIELDS, fields.c_str());
+    }
+    if (hasFile || request.kind == HttpRequest::Kind::formOnce) {
+        // No file and no invitation is sent twice: on a kept connection that ends without an answer libcurl would begin
+        // again by itself.
+        curl_easy_setopt(handle, CURLOPT_FRESH_CONNECT, 1L);
     }
     curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
 

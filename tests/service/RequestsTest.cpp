@@ -157,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(
         RequestCase{"share",
                     [] { return CloudHelper::share(user, token, job, L",a@b.c,,d@e.f,", L"a+b"); },
                     "/api/Share/",
-                    HttpRequest::Kind::form,
+                    HttpRequest::Kind::formOnce,
                     true,
                     {{"fileid", orvtext::toUtf8(job)}, {"shareto", ",a@b.c,,d@e.f,"}, {"comment", "a+b"}},
                     "Cloud/share"}),
