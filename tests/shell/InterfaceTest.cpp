@@ -4,6 +4,7 @@
 #include "platform/qt/RibbonWidget.h"
 #include "platform/qt/ToolBarPictures.h"
 
+#include <QBuffer>
 #include <QToolButton>
 
 using namespace orvtest;
@@ -40,6 +41,36 @@ protected:
     void openSideBar()
     {
         EXPECT_TRUE(sideBar.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 7, WS_CHILD | WS_VISIBLE));
+    }
+
+    /// A module in which these numbers are red pictures.
+    HINSTANCE moduleWithPictures(std::vector<UINT> const& ids) const
+    {
+        QImage red(24, 24, QImage::Format_ARGB32);
+        red.fill(Qt::red);
+        QByteArray picture;
+        QBuffer buffer(&picture);
+        red.save(&buffer, "PNG");
+        auto const little = [](UINT number, int bytes) {
+            std::string text;
+            for (int i = 0; i < bytes; ++i) {
+                text += static_cast<char>(number >> (8 * i) & 0xFF);
+            }
+            return text;
+        };
+        std::string file = little(0, 4) + little(32, 4) + little(0xFFFF, 4) + little(0xFFFF, 4) + std::string(16, '\0');
+        for (UINT const id : ids) {
+            std::string const type("P\0N\0G\0\0\0", 8);
+            std::string const header = type + little(0xFFFF, 2) + little(id, 2) + little(0, 6) + little(0x0409, 2);
+            auto const size = static_cast<UINT>(picture.size());
+            file += little(size, 4) + little(static_cast<UINT>(header.size()) + 16, 4) + header + little(0, 8);
+            file += picture.toStdString();
+            file.resize((file.size() + 3) / 4 * 4);
+        }
+        auto const path = dataDirectory / "viewer.res";
+        std::ofstream(path, std::ios::binary) << file;
+        EXPECT_TRUE(orvplatform::registerModuleFile(L"redviewer.dll", path.string()));
+        return GetModuleHandleW(L"redviewer.dll");
     }
 
     /// True where the list's picture is the resource's.
@@ -155,21 +186,25 @@ TEST_F(InterfaceTest, AnEmptyCategoryGetsThePanelAsItsFirst)
     EXPECT_STREQ(category->GetPanel(0)->GetName(), L"Cloud");
 }
 
-TEST_F(InterfaceTest, PicturesAreFoundUnderTheViewersOwnModuleAndItStaysSet)
+TEST_F(InterfaceTest, PicturesAreThePluginsUnderTheViewersOwnModuleAndItStaysSet)
 {
-    HINSTANCE const own = emptyModule();
+    HINSTANCE const own = moduleWithPictures({205, 206, 501, 505, 509});
     AfxSetResourceHandle(own);
     OrvantaCategory& category = openRibbon();
     plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
     EXPECT_EQ(AfxGetResourceHandle(), own);
-    EXPECT_EQ(category.GetLargeImages().GetCount(), 2);
+    ASSERT_EQ(category.GetLargeImages().GetCount(), 2);
+    EXPECT_TRUE(isPicture(category.GetLargeImages(), 0, 501));
+    EXPECT_TRUE(isPicture(category.GetLargeImages(), 1, 509));
+    EXPECT_TRUE(isPicture(category.GetSmallImages(), 0, 505));
     openSideBar();
     plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
     EXPECT_EQ(AfxGetResourceHandle(), own);
     ASSERT_EQ(sideBar.tabs().large.size(), 1U);
-    EXPECT_EQ(sideBar.tabs().large[0].count, 1);
     EXPECT_NE(sideBar.tabs().GetTabWnd(0), nullptr);
     ResourceModule::use();
+    EXPECT_EQ(sideBar.tabs().large[0].first, paneImage(205, 24, 24));
+    EXPECT_EQ(sideBar.tabs().small[0].first, paneImage(206, 16, 16));
 }
 
 TEST_F(InterfaceTest, PicturesOfTheViewerKeepTheirPlaces)
