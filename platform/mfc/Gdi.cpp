@@ -100,7 +100,7 @@ BOOL CPngImage::Load(LPCWSTR name, HINSTANCE module)
         return FALSE;
     const QByteArray bytes(static_cast<const char*>(LockResource(LoadResource(module, resource))),
                            static_cast<qsizetype>(SizeofResource(module, resource)));
-    QImage image = orvplatform::decodePicture(bytes);
+    QImage image = orvplatform::decodeOnce(bytes);
     if (image.isNull())
         return FALSE;
     DeleteObject();

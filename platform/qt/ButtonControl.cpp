@@ -154,10 +154,11 @@ void setButtonPicture(HWND window, const QPixmap& picture)
 
 void setButtonFlat(HWND window, bool flat)
 {
-    if (QPushButton* button = pushButton(window)) {
-        button->setProperty("flatPicture", flat);
-        restyle(button);
-    }
+    QPushButton* button = pushButton(window);
+    if (!button || button->property("flatPicture").toBool() == flat)
+        return; // styling anew is dear
+    button->setProperty("flatPicture", flat);
+    restyle(button);
 }
 
 void setButtonColours(HWND window, COLORREF face, COLORREF text)

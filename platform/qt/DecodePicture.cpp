@@ -1,6 +1,8 @@
 #include "platform/qt/Gdi.h"
+#include "platform/qt/PictureEnd.h"
 
 #include <QBuffer>
+#include <QCache>
 #include <QImageReader>
 
 namespace orvplatform
@@ -15,6 +17,14 @@ bool isInBounds(QSize size)
     return size.width() <= longestSide && size.height() <= longestSide &&
            qint64{4} * size.width() * size.height() <= qint64{mebibytes} * 1024 * 1024;
 }
+
+// The formats of the system's picture class. Drawings and what else the toolkit reads are not among them, nor is a file
+// that has been cut: its missing pixels would be made up.
+bool isKnownAndWhole(const QByteArray& format, const QByteArray& bytes)
+{
+    static const QList<QByteArray> known{"bmp", "gif", "ico", "jpeg", "png", "tiff"};
+    return known.contains(format) && !breaksOff(format, bytes);
+}
 } // namespace
 
 QSize pictureSize(const QByteArray& bytes)
@@ -23,13 +33,27 @@ QSize pictureSize(const QByteArray& bytes)
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    // The headers of other formats may tell less than comes.
-    if (const QByteArray format = reader.format(); format != "jpeg" && format != "png" && format != "bmp")
+    const QByteArray format = reader.format();
+    if (!isKnownAndWhole(format, bytes))
+        return {0, 0};
+    // The headers of the other formats may tell less than comes.
+    if (format != "jpeg" && format != "png" && format != "bmp")
         return decodePicture(bytes).size();
     const QSize size = reader.size();
     if (size.isEmpty() || !isInBounds(size))
         return {0, 0};
     return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;
+}
+
+QImage decodeOnce(const QByteArray& bytes)
+{
+    constexpr int keptKibibytes = 4096;
+    static QCache<QByteArray, QImage> kept(keptKibibytes);
+    if (const QImage* known = kept.object(bytes))
+        return *known;
+    const QImage image = decodePicture(bytes);
+    kept.insert(bytes, new QImage(image), static_cast<int>(image.sizeInBytes() / 1024) + 1);
+    return image;
 }
 
 QImage decodePicture(const QByteArray& bytes)
@@ -40,7 +64,7 @@ QImage decodePicture(const QByteArray& bytes)
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
     reader.setAutoTransform(true);
-    if (!isInBounds(reader.size()))
+    if (!isKnownAndWhole(reader.format(), bytes) || !isInBounds(reader.size()))
         return {};
     const QImage image = reader.read();
     // Not every format tells beforehand how large its picture is, and some tell less than comes.

@@ -140,9 +140,11 @@ QPixmap shownPicture(HBITMAP bitmap, QSize room)
     if (!image.isNull() && wanted != image.size() && !wanted.isEmpty())
         image = image.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     picture = QPixmap::fromImage(image);
-    QPixmapCache::insert(key, picture);
+    if (!picture.isNull())
+        QPixmapCache::insert(key, picture);
     return picture;
 }
+
 QImage imageOf(HICON icon)
 {
     return icons().contains(icon) ? icon->image : QImage();

@@ -54,7 +54,7 @@ void renewFont(HWND window);
 void renewFonts(QWidget* root);
 
 HBITMAP makeBitmap(QImage image);
-// A picture of which the header alone is read for now. Null where decodePicture would refuse it by its header.
+// A picture of which the header alone is read for now. Null where pictureSize refuses it.
 HBITMAP makeBitmap(const QByteArray& encoded);
 HICON makeIcon(QImage image);
 QSize sizeOf(HBITMAP bitmap);   // (0, 0) for a bad handle
@@ -63,9 +63,11 @@ QImage imageOf(HBITMAP bitmap); // empty for a bad handle, and for a picture tha
 QPixmap shownPicture(HBITMAP bitmap, QSize room);
 QImage imageOf(HICON icon);
 
-// Decodes any format that the system knows. Empty when it is no picture, a side is over 16384 pixels, or it needs more
-// than 64 MiB.
+// Decodes BMP, GIF, ICO, JPEG, PNG and TIFF. Empty when it is none of them, the file has been cut, a side is over 16384
+// pixels, or it needs more than 64 MiB.
 QImage decodePicture(const QByteArray& bytes);
+// The same for pictures that are asked for again and again, as a program's own are: decoded once while there is room.
+QImage decodeOnce(const QByteArray& bytes);
 // The size of what decodePicture gives, by the header alone in the formats whose headers can be relied on; empty where
 // the picture is refused.
 QSize pictureSize(const QByteArray& bytes);

@@ -26,6 +26,7 @@ public:
     using QLabel::QLabel;
     QImage picture;           // an icon's
     HBITMAP bitmap = nullptr; // the control's
+    bool isReported = false;  // that the bitmap can't be shown
 
 protected:
     void paintEvent(QPaintEvent* event) override
@@ -44,10 +45,25 @@ protected:
             return;
         QPainter painter(this);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        if (picture.isNull())
-            painter.drawPixmap(contentsRect(), shownPicture(bitmap, contentsRect().size()));
-        else
+        if (!picture.isNull()) {
             painter.drawImage(contentsRect(), picture);
+            return;
+        }
+        const QPixmap shown = shownPicture(bitmap, contentsRect().size());
+        if (shown.isNull())
+            reportUnreadable();
+        else
+            painter.drawPixmap(contentsRect(), shown);
+    }
+
+private:
+    // Pixels are decoded in the middle of painting, so the dialog hears of it when that is over.
+    void reportUnreadable()
+    {
+        static const UINT message = RegisterWindowMessageW(L"OrvPictureUnreadable");
+        HWND window = existingHandle(this);
+        if (!std::exchange(isReported, true) && isLive(window))
+            PostMessageW(GetParent(window), message, static_cast<WPARAM>(window->id), reinterpret_cast<LPARAM>(bitmap));
     }
 };
 
@@ -70,6 +86,7 @@ public:
         if (message == STM_SETIMAGE && wParam == IMAGE_BITMAP) {
             result = reinterpret_cast<LRESULT>(std::exchange(bitmap, reinterpret_cast<HBITMAP>(lParam)));
             label->bitmap = bitmap;
+            label->isReported = false;
             label->picture = QImage();
             label->update();
             return true;

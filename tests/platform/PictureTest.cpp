@@ -5,10 +5,14 @@
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Native.h"
 
+#include <QBuffer>
 #include <QPixmap>
 #include <QSize>
 
 #include <cstring>
+#include <map>
+#include <utility>
+#include <vector>
 
 namespace
 {
@@ -58,9 +62,12 @@ TEST_F(Picture, IsReadFromAStream)
 TEST_F(Picture, IsDecodedWhenItIsAboutToBeSeen)
 {
     const std::string whole = resource(5);
+    std::string unreadable = whole;
+    const std::size_t pixels = whole.find("IDAT") + 4;
+    unreadable.replace(pixels, 8, 8, '\xff');
     CImage image;
-    // Its header is there, its pixels are not: the size is known and nothing shows.
-    ASSERT_EQ(load(image, whole.substr(0, whole.find("IDAT") + 6)), S_OK);
+    // Its header and its end are there, its pixels are none: the size is known and nothing shows.
+    ASSERT_EQ(load(image, unreadable), S_OK);
     EXPECT_EQ(image.GetWidth(), 48);
     EXPECT_EQ(image.GetHeight(), 24);
     EXPECT_TRUE(orvplatform::pixmapOf(static_cast<HBITMAP>(image)).isNull());
@@ -95,6 +102,82 @@ TEST_F(Picture, IsRefusedWhenBroken)
     EXPECT_EQ(image.Load(L"/no/such/file.png"), E_FAIL);
 }
 
+TEST_F(Picture, IsRefusedWhereverItsFileHasBeenCut)
+{
+    QImage source(12, 9, QImage::Format_RGB32);
+    source.fill(Qt::darkCyan);
+    source.setPixelColor(5, 5, Qt::red);
+    std::map<std::string, std::string> files;
+    for (const char* format : {"PNG", "JPEG", "BMP"}) {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        ASSERT_TRUE(source.save(&buffer, format));
+        files[format] = buffer.data().toStdString();
+    }
+    // One with a table of colours, an extension and a picture of 2 by 2 pixels.
+    files["GIF"] = std::string("GIF89a\x02\x00\x02\x00\x80\x00\x00\x00\x00\x00\xFF\xFF\xFF"
+                               "\x21\xF9\x04\x00\x00\x00\x00\x00"
+                               "\x2C\x00\x00\x00\x00\x02\x00\x02\x00\x00\x02\x03\x44\x34\x05\x00\x3B",
+                               44);
+    for (const auto& [format, whole] : files) {
+        CImage image;
+        ASSERT_EQ(load(image, whole), S_OK) << format;
+        EXPECT_EQ(load(image, whole + "behind its end"), S_OK) << format;
+        EXPECT_FALSE(orvplatform::pixmapOf(static_cast<HBITMAP>(image)).isNull()) << format;
+        const std::size_t afterPicture = format == "GIF" ? 1 : 0; // its last byte only says that no other follows
+        for (std::size_t length = 0; length < whole.size() - afterPicture; ++length)
+            EXPECT_EQ(load(image, whole.substr(0, length)), E_FAIL) << format << " cut to " << length;
+    }
+}
+
+TEST_F(Picture, IsNotWhatElseTheToolkitReads)
+{
+    CImage image;
+    EXPECT_EQ(load(image, "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'><rect width='9' height='9'/>"
+                          "</svg>"),
+              E_FAIL);
+    EXPECT_EQ(load(image, "P6 1 1 255\nabc"), E_FAIL);
+    EXPECT_EQ(load(image, std::string("PK\x03\x04\x14\x00\x00\x00", 8) + std::string(100, 'x')), E_FAIL);
+}
+
+TEST_F(Picture, ThatCannotBeReadIsReportedToItsDialogOnce)
+{
+    class Listener : public CWnd
+    {
+    public:
+        std::vector<std::pair<WPARAM, LPARAM>> reports;
+        BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+        {
+            if (message == RegisterWindowMessageW(L"OrvPictureUnreadable"))
+                reports.emplace_back(wParam, lParam);
+            return CWnd::OnWndMsg(message, wParam, lParam, result);
+        }
+    };
+    Listener window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 100, 100), nullptr, 0));
+    CStatic picture;
+    ASSERT_TRUE(picture.Create(L"", WS_CHILD | WS_VISIBLE | SS_BITMAP, CRect(0, 0, 48, 24), &window, 7));
+    std::string unreadable = resource(5);
+    unreadable.replace(unreadable.find("IDAT") + 4, 8, 8, '\xff');
+    CImage image;
+    ASSERT_EQ(load(image, unreadable), S_OK);
+    HBITMAP bitmap = image.Detach();
+    picture.SetBitmap(bitmap);
+    orvplatform::testing::processEvents();
+    EXPECT_TRUE(window.reports.empty()) << "nobody has looked at it yet";
+    window.ShowWindow(SW_SHOW);
+    for (int i = 0; i < 2; ++i) {
+        picture.Invalidate();
+        orvplatform::testing::processEvents();
+    }
+    const std::vector<std::pair<WPARAM, LPARAM>> expected{{7, reinterpret_cast<LPARAM>(bitmap)}};
+    EXPECT_EQ(window.reports, expected);
+    ASSERT_EQ(load(image, resource(5)), S_OK);
+    DeleteObject(picture.SetBitmap(image.Detach()));
+    orvplatform::testing::processEvents();
+    EXPECT_EQ(window.reports, expected) << "this one can be read";
+}
+
 TEST_F(Picture, IsRefusedWhenItsHeaderAsksForTooMuch)
 {
     // A PNG that says it is 30000 pixels square: 3.6 GB.
@@ -127,6 +210,19 @@ TEST_F(Picture, ComesFromAPngResource)
     EXPECT_FALSE(image.Load(8)); // not a PNG in spite of its type; the earlier picture stays
     EXPECT_NE(image.m_hObject, nullptr);
     EXPECT_FALSE(image.Load(9999));
+}
+
+TEST_F(Picture, OfAResourceIsDecodedOnce)
+{
+    CPngImage first;
+    CPngImage second;
+    CPngImage other;
+    ASSERT_TRUE(first.Load(6) && second.Load(6) && other.Load(5));
+    const auto pixelsOf = [](const CPngImage& image) {
+        return orvplatform::imageOf(static_cast<HBITMAP>(image.m_hObject)).constBits();
+    };
+    EXPECT_EQ(pixelsOf(first), pixelsOf(second)) << "both share their pixels";
+    EXPECT_NE(pixelsOf(first), pixelsOf(other));
 }
 
 TEST_F(Picture, IsCutIntoAList)

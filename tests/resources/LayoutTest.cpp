@@ -98,9 +98,9 @@ protected:
             for (int x = 0; x < side; ++x) {
                 auto const at = pixels + static_cast<std::size_t>(y * side + x) * 3;
                 bool const isPart = std::abs(x - side / 2) + std::abs(y - side / 2) < 50;
-                picture[at] = static_cast<char>(isPart ? 63 : 232 - y / 4);
-                picture[at + 1] = static_cast<char>(isPart ? 125 : 236 - y / 4);
-                picture[at + 2] = static_cast<char>(isPart ? 232 : 242 - y / 4);
+                picture[at] = static_cast<char>(isPart ? 232 : 197 + y / 4);
+                picture[at + 1] = static_cast<char>(isPart ? 125 : 191 + y / 4);
+                picture[at + 2] = static_cast<char>(isPart ? 63 : 187 + y / 4);
             }
         }
         Feed withPicture = comment(L"OK");

@@ -18,6 +18,7 @@ namespace
 
 constexpr int columnWidth = 180; // of text and picture, pixels
 constexpr int lineHeight = 20;
+constexpr int aroundText = 35;                     // of a block's height what picture and text leave
 constexpr std::int64_t tallestWindow = 16'777'215; // pixels; the toolkit makes none that is taller
 
 /// Any format that the image class knows. False where the bytes hold no picture.
@@ -42,11 +43,16 @@ bool loadImage(CImage& image, std::string const& bytes)
     return loaded && image.GetWidth() > 0 && image.GetHeight() > 0;
 }
 
+/// Of the picture control to its dialog: the control's id and the bitmap. A toolkit that decodes pictures at once never
+/// sends it.
+UINT const pictureUnreadable = RegisterWindowMessageW(L"OrvPictureUnreadable");
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(FeedBlock, CDialogEx)
 ON_WM_SIZE()
 ON_WM_LBUTTONDOWN()
+ON_REGISTERED_MESSAGE(pictureUnreadable, &FeedBlock::OnPictureUnreadable)
 ON_BN_CLICKED(resource::control::deleteComment, &FeedBlock::OnDelete)
 END_MESSAGE_MAP()
 
@@ -126,15 +132,36 @@ int FeedBlock::setFeed(Feed const& newRecord, std::shared_ptr<orvweb::UserInfo> 
         thumbnail.ShowWindow(SW_SHOW);
         date.ShowWindow(SW_SHOW);
     } else {
-        // Without a picture there is no date either; that is meant.
-        thumbnail.ShowWindow(SW_HIDE);
-        date.ShowWindow(SW_HIDE);
-        text.MoveWindow(15, 20, columnWidth, textHeight + 20);
+        layOutWithoutThumbnail(textHeight);
     }
     // The record's own flags play no part: the author deletes, nobody else.
     bool const own = userInfo && userInfo->username == record.author.email;
     deleteButton.ShowWindow(own ? SW_SHOW : SW_HIDE);
-    return height + 35 + textHeight;
+    return height + aroundText + textHeight;
+}
+
+void FeedBlock::layOutWithoutThumbnail(int textHeight)
+{
+    // Without a picture there is no date either; that is meant.
+    thumbnail.ShowWindow(SW_HIDE);
+    date.ShowWindow(SW_HIDE);
+    text.MoveWindow(15, 20, columnWidth, textHeight + 20);
+}
+
+LRESULT FeedBlock::OnPictureUnreadable(WPARAM control, LPARAM bitmap)
+{
+    // The next record's picture may have come in between.
+    bool const isShown = static_cast<int>(control) == resource::control::thumbnail &&
+                         reinterpret_cast<HBITMAP>(bitmap) == thumbnail.GetBitmap();
+    if (!isShown) {
+        return 0;
+    }
+    int const textHeight = lineCount(record.comment.content) * lineHeight;
+    layOutWithoutThumbnail(textHeight);
+    if (auto* const list = dynamic_cast<CMFCTasksPane*>(GetParent())) {
+        list->SetWindowHeight(m_hWnd, aroundText + textHeight);
+    }
+    return 0;
 }
 
 /// Measured as one line, line breaks and all; the control does the wrapping.

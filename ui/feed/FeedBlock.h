@@ -46,6 +46,8 @@ protected:
     void OnLButtonDown(UINT flags, CPoint point);
     void OnSize(UINT type, int width, int height);
     void OnDelete();
+    /// The picture control found, when it was about to draw, that a bitmap's pixels can't be read.
+    LRESULT OnPictureUnreadable(WPARAM control, LPARAM bitmap);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -53,6 +55,7 @@ private:
                   std::shared_ptr<orv::SCApplication> const& application);
     int lineCount(std::wstring const& content);
     bool loadThumbnail(int& height);
+    void layOutWithoutThumbnail(int textHeight);
 
     void* spare = nullptr; ///< never read; its place is given
     CStatic thumbnail;

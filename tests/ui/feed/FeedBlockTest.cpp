@@ -139,9 +139,9 @@ TEST_F(FeedBlockTest, ThePrefixIsSkippedByTheSource)
 TEST_F(FeedBlockTest, AnEscapedPlusIsUndoneInLowerCaseOnly)
 {
     // 0xFB 0xEF 0xBE gives "++++" in base64, and the header is as long as whole groups: all pixels are plus signs.
-    std::string bytes = "P6  60  30 255\n";
-    for (int pixel = 0; pixel < 60 * 30; ++pixel) {
-        bytes += "\xfb\xef\xbe";
+    std::string bytes = pictureBytes(60, 30);
+    for (std::size_t at = bytes.size() - std::size_t{60} * 30 * 3; at < bytes.size(); at += 3) {
+        bytes.replace(at, 3, "\xfb\xef\xbe");
     }
     std::wstring uri = dataUri(bytes);
     ASSERT_NE(uri.find(L"++++"), std::wstring::npos);

@@ -13,11 +13,26 @@
 namespace orvtest
 {
 
-/// A picture file of that size, white.
+/// A number's bytes, the lowest first.
+inline std::string littleEndian(std::size_t value, int count)
+{
+    std::string bytes;
+    for (int i = 0; i < count; ++i) {
+        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+    }
+    return bytes;
+}
+
+/// A Windows bitmap of that size, white: a header of 54 bytes, then lines of blue, green and red from the lowest one
+/// up, each filled up to whole groups of four bytes.
 inline std::string pictureBytes(int width, int height)
 {
-    return "P6 " + std::to_string(width) + " " + std::to_string(height) + " 255\n" +
-           std::string(static_cast<std::size_t>(width) * static_cast<std::size_t>(height) * 3, '\xff');
+    std::size_t const line = (static_cast<std::size_t>(width) * 3 + 3) / 4 * 4;
+    std::size_t const pixels = line * static_cast<std::size_t>(height);
+    return "BM" + littleEndian(54 + pixels, 4) + littleEndian(0, 4) + littleEndian(54, 4) + littleEndian(40, 4) +
+           littleEndian(static_cast<std::size_t>(width), 4) + littleEndian(static_cast<std::size_t>(height), 4) +
+           littleEndian(1, 2) + littleEndian(24, 2) + littleEndian(0, 4) + littleEndian(pixels, 4) +
+           littleEndian(0, 16) + std::string(pixels, '\xff');
 }
 
 inline std::wstring dataUri(std::string const& bytes)
