@@ -97,6 +97,24 @@ TEST_F(AddFeedTest, AJobIdOf35CharactersLeadsToTheUpload)
     EXPECT_EQ(network.sent().size(), 5U);
 }
 
+TEST_F(AddFeedTest, WithoutAnExporterTheCommentIsSentAllTheSame)
+{
+    orvhost::Settings settings;
+    settings.dataDirectory = dataDirectory.wstring();
+    settings.libraryDirectory = (dataDirectory / "no libraries here").wstring();
+    settings.serviceUrl = L"http://127.0.0.1:9";
+    settings.language = L"en";
+    settings.dpi = 96.0;
+    orvhost::configure(settings);
+    std::filesystem::remove(orv::FileUtils::getTempPath() + L"gearbox.prc");
+    network.expect("/api/isFilePresent/", "");
+    network.expectFailure("/api/UploadInput/");
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_EQ(network.last().field("jobid"), "failed");
+    EXPECT_EQ(application->lastText(), text(109));
+}
+
 TEST_F(AddFeedTest, TheExporterIsMadeOnceAndReportsToTheStatusLine)
 {
     for (char const* const copy : {"copy 1 without preferences", "copy 2 without preferences"}) {

@@ -246,10 +246,10 @@ TEST_F(FeedPaneTest, AFeedOfThousandsOfEntriesIsShownWhole)
 {
     signIn();
     openPaneWithModel();
-    loadFeed(std::vector<std::string>(2003, "Ann"));
-    EXPECT_EQ(visibleBlocks(), 2003);
-    EXPECT_EQ(groups().size(), 2005U);
-    EXPECT_EQ(tabTitle(), L"Feeds - 2003");
+    loadFeed(std::vector<std::string>(10'003, "Ann"));
+    EXPECT_EQ(visibleBlocks(), 10'003);
+    EXPECT_EQ(groups().size(), 10'005U);
+    EXPECT_EQ(tabTitle(), L"Feeds - 10003");
 }
 
 TEST_F(FeedPaneTest, BlocksAreAddedWhicheverModuleIsSet)

@@ -105,6 +105,45 @@ TEST_F(FeedToolbarTest, ALogoutDisablesThemWithAModelOpen)
     EXPECT_FALSE(enabled());
 }
 
+TEST_F(FeedToolbarTest, NoOtherHintTouchesThem)
+{
+    signIn();
+    auto const sendOthers = [this](bool before) {
+        for (short code = -1; code <= 50; ++code) {
+            if (code != codes::documentOpened && code != codes::signedIn && code != codes::signedOut) {
+                sendHint(*toolbar, code, scene.document);
+                EXPECT_EQ(enabled(), before) << code;
+            }
+        }
+    };
+    sendOthers(false);
+    sendHint(*toolbar, codes::signedIn, scene.document);
+    sendOthers(true);
+}
+
+TEST_F(FeedToolbarTest, ThePushTakesTheDocumentOfWhicheverHintCameLast)
+{
+    signIn();
+    TestScene other(L"/models/other.stp");
+    other.application->application = application;
+    sendHint(*toolbar, codes::documentOpened, scene.document);
+    sendHint(*toolbar, codes::documentChanged, other.document);
+    network.expect("/api/UploadInput/", jobIdBytes);
+    EXPECT_TRUE(clickButton(*toolbar, push));
+    EXPECT_EQ(network.last().field("filename"), "other.stp");
+}
+
+TEST_F(FeedToolbarTest, AFailingPushIsToldByThePushAlone)
+{
+    signIn();
+    sendHint(*toolbar, codes::documentOpened, scene.document);
+    network.expectFailure("/api/UploadInput/");
+    EXPECT_TRUE(clickButton(*toolbar, push));
+    EXPECT_EQ(network.sent().size(), 1U);
+    EXPECT_TRUE(application->notifier->codes.empty());
+    EXPECT_TRUE(enabled());
+}
+
 TEST_F(FeedToolbarTest, PushingSendsTheModelAndReloadsNothing)
 {
     signIn();
