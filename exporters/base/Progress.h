@@ -8,14 +8,12 @@ class IStatusManager;
 namespace orvexport
 {
 
-/// The progress bar, shown while this lives. It never goes back. Without a bar nothing happens.
+/// How far an export is, told to the progress bar, which whoever asked for the export shows and hides. It never goes
+/// back. Without a bar nothing happens.
 class Progress
 {
 public:
     explicit Progress(orv::IStatusManager* manager);
-    ~Progress();
-    Progress(Progress const&) = delete;
-    Progress& operator=(Progress const&) = delete;
 
     void set(double done); ///< 0 to 1
 

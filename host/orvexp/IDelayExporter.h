@@ -14,6 +14,10 @@ class Preferences;
 namespace orvexp
 {
 
+/// The channel of the progress bar on which an exporter reports how far it is. It neither shows nor hides the bar: a
+/// save shows it for this channel, while a push shows it for its own course, which the export's stays out of.
+constexpr int exportChannel = 2;
+
 /// Writes a document to a file.
 class IDelayExporter
 {

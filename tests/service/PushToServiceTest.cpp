@@ -48,6 +48,18 @@ protected:
         return contents;
     }
 
+    /// What happens to the bar during a push: exporters report on a channel of their own, which the bar leaves out.
+    std::vector<std::string> courseOfTheBar() const
+    {
+        std::vector<std::string> course;
+        for (std::string const& event : application->events) {
+            if (event.starts_with("progress ") && !event.ends_with(" (channel isn't 1)")) {
+                course.push_back(event);
+            }
+        }
+        return course;
+    }
+
     /// The direct push with the viewer's own exporter.
     std::wstring pushConverted() const
     {
@@ -66,6 +78,20 @@ TEST_F(PushToService, DirectGivesTheJobIdByWhichTheModelIsKnown)
     EXPECT_EQ(stored()[0].substr(0, 3), "PRC");
     EXPECT_THAT(leftBehind(), IsEmpty());
     EXPECT_EQ(pushConverted(), job) << "a new version of the same model";
+}
+
+TEST_F(PushToService, TheViewersExportersStayOutOfTheBarsCourse)
+{
+    writeFile(environment.data / "Orvanta/RecentFile/asm_gear.box.bmp", "picture");
+    auto const course = testing::ElementsAre("progress on", "progress 20", "progress 50", "progress 80", "progress 100",
+                                             "progress off");
+    EXPECT_TRUE(isJobId(pushConverted()));
+    EXPECT_THAT(courseOfTheBar(), course);
+    EXPECT_THAT(application->events, testing::Contains("progress 100 (channel isn't 1)")) << "the exporter reports";
+    application->events.clear();
+    EXPECT_TRUE(isJobId(pushWithPreview()));
+    EXPECT_THAT(courseOfTheBar(), course);
+    EXPECT_THAT(application->events, testing::Contains("progress 100 (channel isn't 1)"));
 }
 
 TEST_F(PushToService, ModelsWithHardNamesAreFoundAgain)

@@ -13,15 +13,19 @@
 #include "support/ScriptedHttpServer.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/StartPage.h"
+#include "viewer/app/StatusLine.h"
 #include "viewer/commands/CommandId.h"
 #include "viewer/scene/SceneDisplay.h"
 
 #include <QImage>
 #include <QListWidget>
 #include <QMenu>
+#include <QProgressBar>
 #include <QTest>
 
+#include <algorithm>
 #include <set>
+#include <utility>
 
 using namespace orvtest;
 
@@ -80,6 +84,37 @@ protected:
 
     std::shared_ptr<orvweb::UserInfo> user = std::make_shared<orvweb::UserInfo>();
     ScriptedHttpServer server;
+};
+
+/// Notes when a progress bar comes and goes, and each value that it shows meanwhile.
+class BarWatch : public QObject
+{
+public:
+    explicit BarWatch(QProgressBar& watched) : bar(watched)
+    {
+        bar.installEventFilter(this);
+        connect(&bar, &QProgressBar::valueChanged, this, [this](int value) {
+            if (!bar.isHidden()) {
+                course += std::to_string(value) + ' ';
+            }
+        });
+    }
+    std::string takeCourse() { return std::exchange(course, {}); }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show) {
+            course += "shown ";
+        } else if (event->type() == QEvent::Hide) {
+            course += "hidden ";
+        }
+        return false;
+    }
+
+private:
+    QProgressBar& bar;
+    std::string course;
 };
 
 /// How many colours a picture has, up to a few.
@@ -141,6 +176,28 @@ TEST_F(PushFromViewer, ThePushWithPreviewSendsThePictureThatTheViewerMade)
         EXPECT_GT(coloursOf(picture), 20U) << "the model is in it";
         EXPECT_TRUE(isWholeIn(picture)) << "the model is cut off";
     }
+}
+
+TEST_F(PushFromViewer, TheBarShowsThePushesCourseOnceWhateverTheExportersReport)
+{
+    std::filesystem::create_directory_symlink(ORV_BINARY_DIR "/lib/export", folder.path / "lib/export");
+    ASSERT_TRUE(session->openModel(sampleModel().wstring())) << status();
+    auto* const bar = session->window().status().findChild<QProgressBar*>();
+    ASSERT_NE(bar, nullptr);
+    BarWatch watch(*bar);
+    server.expect("POST", "/api/UploadInput/", Answer::ok(job));
+    EXPECT_EQ(orvtext::toUtf8(pushDirect()), job);
+    EXPECT_EQ(watch.takeCourse(), "shown 20 50 80 100 hidden ");
+    server.expect("POST", "/api/Upload/", Answer::ok(job));
+    server.expect("POST", "/api/Upload/", Answer::ok(job));
+    EXPECT_EQ(orvtext::toUtf8(pushWithPreview()), job);
+    EXPECT_EQ(watch.takeCourse(), "shown 20 50 80 100 hidden ");
+
+    EXPECT_TRUE(session->exportModel((folder.path / "copy.prc").wstring())) << status();
+    std::string const save = watch.takeCourse();
+    EXPECT_TRUE(save.starts_with("shown ")) << save;
+    EXPECT_TRUE(save.ends_with(" 100 hidden ")) << save;
+    EXPECT_GT(std::count(save.begin(), save.end(), ' '), 4) << "a save shows the exporter's own course: " << save;
 }
 
 TEST_F(PushFromViewer, PreviewsAreShownInTheRecentFiles)

@@ -57,17 +57,23 @@ void StatusLine::showFacts(QString const& facts)
     factsLabel->setText(facts);
 }
 
-void StatusLine::setProgress(int const& percent, int)
+void StatusLine::setProgress(int const& percent, int channel)
 {
+    if (channel != shownChannel) {
+        return;
+    }
     progressBar->setValue(std::clamp(percent, 0, 100));
     if (progressBar->isVisible()) {
         progressBar->repaint();
     }
 }
 
-void StatusLine::showProgress(int on, int)
+void StatusLine::showProgress(int on, int channel)
 {
-    progressBar->setValue(0);
+    shownChannel = on != 0 ? std::optional(channel) : std::nullopt;
+    if (on != 0) {
+        progressBar->setValue(0);
+    }
     progressBar->setVisible(on != 0);
     if (isVisible()) {
         repaint();

@@ -4,6 +4,7 @@
 
 #include <QStatusBar>
 
+#include <optional>
 #include <string>
 
 class QLabel;
@@ -36,6 +37,7 @@ private:
     void layOutMessage();
 
     std::wstring message;
+    std::optional<int> shownChannel; ///< whose course the bar shows; empty while it is hidden
     QLabel* messageLabel;
     QLabel* factsLabel;
     QProgressBar* progressBar;

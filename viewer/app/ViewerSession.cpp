@@ -3,6 +3,7 @@
 #include "host/orv/FileUtils.h"
 #include "host/orv/IPlugin.h"
 #include "host/orv/SCApplication.h"
+#include "host/orvexp/IDelayExporter.h"
 #include "host/orvgl/SCRenderer.h"
 #include "host/orvsg/SCInfo.h"
 #include "host/orvsg/SCSceneTopo.h"
@@ -45,6 +46,22 @@ void* displayOfToolkit()
     return native != nullptr ? native->display() : nullptr;
 }
 
+void linkTo(std::shared_ptr<orv::IApplication> application, orv::Document& document)
+{
+    auto link = std::make_shared<orv::SCApplication>();
+    link->application = std::move(application);
+    document.setSchema(orv::SCApplication::key, std::move(link));
+}
+
+/// A document without a file or a scene: what plug-ins hold until the first model. The viewer itself has none then.
+std::shared_ptr<orv::Document> makeStartDocument(std::shared_ptr<orv::IApplication> application)
+{
+    auto document = std::make_shared<orv::Document>();
+    document->setSchema(orvsg::SCInfo::key, std::make_shared<orvsg::SCInfo>());
+    linkTo(std::move(application), *document);
+    return document;
+}
+
 } // namespace
 
 ViewerSession::State::State(orvhost::Settings settings)
@@ -80,8 +97,10 @@ ViewerSession::State::State(orvhost::Settings settings)
     applyPreferences(preferences);
     showFacts();
     window->startPage().showRecent(recent);
-    // Panes build themselves on hints: this one, without a document, lets them show what they have to begin with.
-    raise(orv::HintCode::documentActivated);
+    // Panes build themselves on hints. This one lets them show what they have to begin with, and gives them a way to
+    // the application: who signs in before there is a model is told how that went.
+    orvui::Hint start(orv::HintCode::documentActivated, makeStartDocument(application));
+    notifier->notify(start);
     QObject::connect(&idle, &QTimer::timeout, window.get(), [this] { commands->refresh(); });
     idle.start(idleInterval);
 }
@@ -162,9 +181,7 @@ double ViewerSession::State::pictureAspect() const
 
 void ViewerSession::State::showDocument(std::shared_ptr<orv::Document> const& document)
 {
-    auto link = std::make_shared<orv::SCApplication>();
-    link->application = application;
-    document->setSchema(orv::SCApplication::key, std::move(link));
+    linkTo(application, *document);
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(document);
     renderer->settings.showAxisCross = preferences.showAxisCross;
     renderer->settings.showViewCube = preferences.showViewCube;
@@ -236,9 +253,9 @@ void ViewerSession::State::closeModel()
 
 bool ViewerSession::State::exportModel(std::wstring const& path)
 {
-    window->status().showProgress(1, 1);
+    window->status().showProgress(1, orvexp::exportChannel);
     auto const result = exportDocument(openDocument, path, &window->status());
-    window->status().showProgress(0, 1);
+    window->status().showProgress(0, orvexp::exportChannel);
     showStatus(result.message);
     return result.status == 0;
 }

@@ -285,8 +285,6 @@ TEST_F(NativeFile, ShowsProgressThatRisesToTheEnd)
 {
     auto const sample = sampleDocument();
     ASSERT_EQ(save(sample), orvexp::Status::ok);
-    EXPECT_EQ(bar.switched, 2);
-    EXPECT_FALSE(bar.isShown);
     EXPECT_GE(bar.percents.size(), 10U);
     EXPECT_TRUE(std::is_sorted(bar.percents.begin(), bar.percents.end()));
     EXPECT_EQ(bar.percents.back(), 100);

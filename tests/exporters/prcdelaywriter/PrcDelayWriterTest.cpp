@@ -60,14 +60,12 @@ TEST_F(PrcDelayWriterTest, WritesTheModel)
     EXPECT_EQ(scene.meshes.at(0).triangleCount(), 2U);
 }
 
-TEST_F(PrcDelayWriterTest, ShowsItsProgressAndHidesItAgain)
+TEST_F(PrcDelayWriterTest, ReportsItsProgressAndLeavesTheBarItself)
 {
     save("a.prc");
-    EXPECT_EQ(bar.switched, 2);
-    EXPECT_FALSE(bar.isShown);
     EXPECT_GE(bar.percents.size(), 3U);
     EXPECT_TRUE(std::is_sorted(bar.percents.begin(), bar.percents.end()));
-    EXPECT_EQ(bar.percents.front(), 0);
+    EXPECT_LT(bar.percents.front(), 50) << "a long export would stand still";
     EXPECT_EQ(bar.percents.back(), 100);
 }
 
@@ -107,7 +105,6 @@ TEST_F(PrcDelayWriterTest, SaysThatThereIsNothingToWrite)
     EXPECT_EQ(writer.save(pathOf("a.prc").c_str(), nullptr, nullptr, &bar), Status::nothingToWrite);
     EXPECT_EQ(writer.save(pathOf("a.prc").c_str(), std::make_shared<orv::Document>(), nullptr, &bar),
               Status::nothingToWrite);
-    EXPECT_FALSE(bar.isShown);
     EXPECT_TRUE(isEmptyFolder());
 }
 
@@ -116,7 +113,6 @@ TEST_F(PrcDelayWriterTest, SaysThatItCannotWrite)
     EXPECT_EQ(save("missing/a.prc"), Status::cannotWrite);
     EXPECT_EQ(writer.save(L"", maker.document, nullptr, &bar), Status::cannotWrite);
     EXPECT_EQ(writer.save(nullptr, maker.document, nullptr, &bar), Status::cannotWrite);
-    EXPECT_FALSE(bar.isShown);
     EXPECT_TRUE(isEmptyFolder());
 }
 
@@ -128,7 +124,6 @@ TEST_F(PrcDelayWriterTest, LeavesNoPartOfAFileOnAFullDisk)
         status = save("a.prc");
     }
     EXPECT_EQ(status, Status::cannotWrite);
-    EXPECT_FALSE(bar.isShown);
     EXPECT_TRUE(isEmptyFolder());
 }
 
