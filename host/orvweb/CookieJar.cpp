@@ -66,11 +66,15 @@ std::string linesOf(std::wstring const& path, std::string const& service, bool i
 
 void CookieJar::load(CURL* handle, std::string const& service)
 {
-    if (path == jarPath() && owner == service) {
+    std::wstring const wanted = jarPath();
+    auto const current = orvhost::stampOf(orvhost::nativePath(wanted)); // before the reading: a later change is seen
+    if (path == wanted && owner == service && (current == stamp || !isSaved)) {
         return;
     }
-    path = jarPath();
+    path = wanted;
     owner = service;
+    stamp = current;
+    isSaved = true;
     // A comment line switches the cookie engine on, for the handle's life, and adds nothing.
     curl_easy_setopt(handle, CURLOPT_COOKIELIST, "#");
     curl_easy_setopt(handle, CURLOPT_COOKIELIST, "ALL");
@@ -104,8 +108,10 @@ void CookieJar::save(CURL* handle)
     bool const isDone = text.empty() ? std::filesystem::remove(file, error) || !error
                                      : orvhost::makeDirectory(file.parent_path()) && orvhost::replaceFile(file, text);
     // What could not be written is tried again after the next request.
+    isSaved = isDone;
     if (isDone) {
         content = own;
+        stamp = orvhost::stampOf(file);
     }
 }
 

@@ -39,6 +39,17 @@ std::filesystem::path nativePath(std::wstring const& path)
     return orvtext::toUtf8(path);
 }
 
+FileStamp stampOf(std::filesystem::path const& path)
+{
+    struct stat status {
+    };
+    if (::stat(path.c_str(), &status) != 0) {
+        return {};
+    }
+    return {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino), status.st_size,
+            status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
 bool makeDirectory(std::filesystem::path const& path)
 {
     std::error_code error;

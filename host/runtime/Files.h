@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -17,6 +19,11 @@ bool makeDirectory(std::filesystem::path const& path);
 /// Replaces a file as a whole, mode 0600: written beside it under a temporary name and renamed, so a reader sees the
 /// old content or the new one. False leaves the old file and nothing else behind.
 bool replaceFile(std::filesystem::path const& path, std::string_view content);
+
+/// By which a file that another process has written is told from the one that was read: device, inode, size, seconds
+/// and nanoseconds. Zeros where there is none.
+using FileStamp = std::array<std::int64_t, 5>;
+FileStamp stampOf(std::filesystem::path const& path);
 
 /// The first `limit` bytes of a file; empty where it can't be read.
 std::string readFile(std::filesystem::path const& path, std::size_t limit);

@@ -157,4 +157,25 @@ TEST_F(WebJar, ThatCantBeWrittenIsTriedAgain)
     EXPECT_EQ(cookieSentTo(service), "orvanta_session=abc");
 }
 
+TEST_F(WebJar, IsReadAgainWhereAnotherViewerHasWrittenIt)
+{
+    orvweb::CurlTransport other;
+    auto const sendBy = [this](orvweb::CurlTransport& viewer, std::string const& moreHeaders = {}) {
+        service.expect("GET", "/api/x", Answer::ok("ok", moreHeaders));
+        orvweb::HttpRequest request;
+        request.url = service.url() + "/api/x";
+        EXPECT_EQ(viewer.send(request, {}).code, orv::ErrorCode::none);
+        return service.last().header("Cookie");
+    };
+    EXPECT_EQ(sendBy(*transport), "");
+    EXPECT_EQ(sendBy(other, cookieHeader), "") << "signs in";
+    EXPECT_EQ(sendBy(*transport), "orvanta_session=abc") << "signs out: the service must hear whose session it is";
+    EXPECT_EQ(sendBy(*transport, "Set-Cookie: orvanta_session=def; Path=/api/; Max-Age=3600\r\n"),
+              "orvanta_session=abc");
+    EXPECT_EQ(sendBy(other), "orvanta_session=def");
+    EXPECT_EQ(sendBy(other, "Set-Cookie: orvanta_session=; Path=/api/; Max-Age=0\r\n"), "orvanta_session=def");
+    EXPECT_EQ(sendBy(*transport), "") << "the jar is gone, and its cookie with it";
+    EXPECT_FALSE(std::filesystem::exists(jar()));
+}
+
 } // namespace

@@ -7,6 +7,7 @@
 #include "platform/text/Text.h"
 #include "service/ModelFiles.h"
 #include "support/FileWatch.h"
+#include "tests/exporters/FullDisk.h"
 #include "viewer/app/CommandTable.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/RecentFiles.h"
@@ -172,8 +173,7 @@ TEST_F(RecentFilesTest, KnowTheListInMemoryWhereItCannotBeWritten)
 TEST_F(RecentFilesTest, PreviewsLieWhereThePushLooksForThemAndArePng)
 {
     for (int const kind : {orvsg::SCInfo::assembly, orvsg::SCInfo::part}) {
-        for (char const* const name :
-             {"gear.step", "gear box.v2.step", "Getriebe \u00e4\u6a5f.iges", "noext"}) {
+        for (char const* const name : {"gear.step", "gear box.v2.step", "Getriebe \u00e4\u6a5f.iges", "noext"}) {
             auto const model = document(name, kind);
             files.savePreview(model, picture(Qt::green));
             auto const sent = orvhost::nativePath(previewFilePath(*orv::recordOf<orvsg::SCInfo>(model)));
@@ -258,4 +258,44 @@ TEST_F(RecentFilesTest, AnotherViewersModelsAppearOnTheStartPage)
     session->commands().refresh();
     EXPECT_TRUE(session->commands().action(orvviewer::recentFiles)->isEnabled());
     EXPECT_EQ(colourOf(list->item(0)->icon()), QColor(Qt::red));
+}
+
+TEST_F(RecentFilesTest, WithoutANewPictureTheFormerOneIsGone)
+{
+    auto const former = document("former/gear.step");
+    auto const latter = document("latter/gear.step"); // another model, whose picture has the same name
+    open(files, former, Qt::red);
+    auto const preview = orvhost::nativePath(previewFilePath(*orv::recordOf<orvsg::SCInfo>(latter)));
+    ASSERT_TRUE(std::filesystem::exists(preview));
+    files.savePreview(latter, QImage()); // there is no display that could draw
+    files.add(latter);
+    EXPECT_FALSE(std::filesystem::exists(preview)) << "a push with preview would send it";
+    EXPECT_TRUE(files.previewOf(pathOf(latter)).isNull());
+    files.savePreview(latter, QImage());
+    EXPECT_FALSE(std::filesystem::exists(preview));
+}
+
+TEST_F(RecentFilesTest, APictureThatTheDiskHasNoRoomForTakesTheFormerOneWithIt)
+{
+    auto const former = document("former/gear.step");
+    auto const latter = document("latter/gear.step");
+    open(files, former, Qt::red);
+    auto const preview = orvhost::nativePath(previewFilePath(*orv::recordOf<orvsg::SCInfo>(latter)));
+    ASSERT_TRUE(std::filesystem::exists(preview));
+    std::string const list = contentOf(listFile());
+    {
+        prctest::FullDisk const disk(16);
+        open(files, latter, Qt::blue);
+        EXPECT_THAT(files.paths(), ElementsAre(pathOf(latter), pathOf(former))) << "this run knows it all the same";
+    }
+    EXPECT_FALSE(std::filesystem::exists(preview));
+    EXPECT_TRUE(files.previewOf(pathOf(latter)).isNull());
+    EXPECT_EQ(contentOf(listFile()), list) << "the list is whole, though old";
+    std::size_t left = 0;
+    for (auto const& entry : std::filesystem::directory_iterator(listFile().parent_path())) {
+        left += entry.is_regular_file() ? 1U : 0U;
+    }
+    EXPECT_EQ(left, 1U) << "half a file stayed";
+    open(files, latter, Qt::blue);
+    EXPECT_EQ(colourOf(files.previewOf(pathOf(latter))), QColor(Qt::blue));
 }

@@ -14,8 +14,6 @@
 #include <set>
 #include <sstream>
 
-#include <sys/stat.h>
-
 namespace orvviewer
 {
 
@@ -66,17 +64,6 @@ std::wstring RecentFiles::previewPath(std::wstring const& modelPath, Kind kind)
     return orv::FileUtils::join(folder(), (kind == Kind::assembly ? L"asm_" : L"part_") + name + L".bmp");
 }
 
-RecentFiles::Stamp RecentFiles::stampOf(std::wstring const& path)
-{
-    struct stat status {
-    };
-    if (::stat(orvhost::nativePath(path).c_str(), &status) != 0) {
-        return {};
-    }
-    return {static_cast<std::int64_t>(status.st_dev), static_cast<std::int64_t>(status.st_ino), status.st_size,
-            status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
-}
-
 RecentFiles::Entry RecentFiles::parsed(std::string const& line)
 {
     for (auto const& [mark, kind] : {std::pair<std::string_view, Kind>{assemblyMark, Kind::assembly},
@@ -96,13 +83,13 @@ std::string RecentFiles::line(Entry const& entry)
 
 bool RecentFiles::refresh() const
 {
-    auto const path = listPath();
-    auto const current = stampOf(path); // before the reading: what is written meanwhile is read the next time
+    auto const path = orvhost::nativePath(listPath());
+    auto const current = orvhost::stampOf(path); // before the reading: what is written meanwhile is read the next time
     if (isKnown && current == stamp) {
         return false;
     }
     entries.clear();
-    std::istringstream lines(orvhost::readFile(orvhost::nativePath(path), listLimit));
+    std::istringstream lines(orvhost::readFile(path, listLimit));
     for (std::string text; std::getline(lines, text) && entries.size() < limit;) {
         Entry entry = parsed(text);
         if (!entry.path.empty()) {
@@ -152,24 +139,28 @@ void RecentFiles::add(std::shared_ptr<orv::IDocument> const& document)
     }
     // Where it can't be written the list holds for this run alone.
     if (!folder().empty() && orvhost::replaceFile(orvhost::nativePath(listPath()), text)) {
-        stamp = stampOf(listPath());
+        stamp = orvhost::stampOf(orvhost::nativePath(listPath()));
     }
 }
 
 void RecentFiles::savePreview(std::shared_ptr<orv::IDocument> const& document, QImage const& picture)
 {
     auto const info = orv::recordOf<orvsg::SCInfo>(document);
-    if (!info || picture.isNull() || folder().empty()) {
+    if (!info || info->file()[0] == L'\0' || folder().empty()) {
         return;
     }
+    bool const isAssembly = info->documentKind == orvsg::SCInfo::assembly;
+    auto const file = orvhost::nativePath(previewPath(info->file(), isAssembly ? Kind::assembly : Kind::part));
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    if (picture.save(&buffer, "PNG")) {
-        bool const isAssembly = info->documentKind == orvsg::SCInfo::assembly;
-        auto const path = previewPath(info->file(), isAssembly ? Kind::assembly : Kind::part);
-        orvhost::replaceFile(orvhost::nativePath(path),
-                             std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    bool const isWritten =
+        !picture.isNull() && picture.save(&buffer, "PNG") &&
+        orvhost::replaceFile(file, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    if (!isWritten) {
+        // What is there shows another model of that name, or this one as it was: it must not be shown or pushed for it.
+        std::error_code failure;
+        std::filesystem::remove(file, failure);
     }
 }
 

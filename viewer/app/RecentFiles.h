@@ -1,12 +1,11 @@
 #pragma once
 
 #include "host/orv/IDocument.h"
+#include "host/runtime/Files.h"
 
 #include <QIcon>
 #include <QImage>
 
-#include <array>
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,6 +30,7 @@ public:
     std::vector<std::wstring> paths() const; ///< files that are gone since are left out
     bool refresh() const;                    ///< reads the list where it has changed; false where it hasn't
     void add(std::shared_ptr<orv::IDocument> const& document);
+    /// Where there is no picture, or it can't be written, there is no preview afterwards.
     void savePreview(std::shared_ptr<orv::IDocument> const& document, QImage const& picture);
     /// Empty where there is none, or where the picture shows a model of the same name that was opened later.
     QIcon previewOf(std::wstring const& path) const;
@@ -41,17 +41,14 @@ private:
         std::wstring path;
         Kind kind = Kind::unknown; ///< unknown in lists that earlier versions wrote
     };
-    /// By which a changed file is told from the one that was read: device, inode, size, seconds and nanoseconds.
-    using Stamp = std::array<std::int64_t, 5>;
 
     static std::wstring listPath();
-    static Stamp stampOf(std::wstring const& path);
     static std::wstring previewPath(std::wstring const& modelPath, Kind kind);
     static Entry parsed(std::string const& line);
     static std::string line(Entry const& entry);
 
     mutable std::vector<Entry> entries;
-    mutable Stamp stamp{};
+    mutable orvhost::FileStamp stamp{};
     mutable bool isKnown = false;
 };
 
