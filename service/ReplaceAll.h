@@ -26,9 +26,9 @@ std::basic_string<Character> replaceAllIn(std::basic_string<Character> text, std
     return result;
 }
 
-inline std::string replaceAll(std::string_view text, std::string_view word, std::string_view replacement)
+inline std::string replaceAll(std::string text, std::string_view word, std::string_view replacement)
 {
-    return replaceAllIn(std::string(text), word, replacement);
+    return replaceAllIn(std::move(text), word, replacement);
 }
 inline std::wstring replaceAll(std::wstring text, std::wstring_view word, std::wstring_view replacement)
 {

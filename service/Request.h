@@ -6,6 +6,7 @@
 #include "service/StatusUpdator.h"
 
 #include <string>
+#include <utility>
 
 /// Appends one token; their order is part of a request.
 void addToken(orv::OmniInfo& request, std::wstring const& name, std::wstring const& value);
@@ -27,5 +28,5 @@ RequestResult runRequest(orv::ErrorCode (WebClass::*operation)(orv::OmniInfo con
     StatusUpdator updator;
     WebClass web(orvweb::APIUtils::rootUrl());
     orv::ErrorCode const code = (web.*operation)(request, &updator);
-    return {code, updator.getResponse()};
+    return {code, std::move(updator).getResponse()};
 }

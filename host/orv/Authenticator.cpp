@@ -11,7 +11,7 @@ Authenticator::~Authenticator() = default;
 
 ErrorCode Authenticator::login(OmniInfo const& request, IStatusUpdator* updater)
 {
-    return orvweb::exchange("Authenticator::login", root, request, orvweb::HttpRequest::Kind::form, updater);
+    return orvweb::exchange("Authenticator::login", root, request, orvweb::HttpRequest::Kind::formOnce, updater);
 }
 
 } // namespace orv

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string_view>
 #include <system_error>
@@ -239,8 +240,8 @@ try {
         curl_easy_setopt(handle, CURLOPT_POSTFIELDS, fields.c_str());
     }
     if (hasFile || request.kind == HttpRequest::Kind::formOnce) {
-        // No file and no invitation is sent twice: on a kept connection that ends without an answer libcurl would begin
-        // again by itself.
+        // No file, no login and no invitation is sent twice: on a kept connection that ends without an answer libcurl
+        // would begin again by itself.
         curl_easy_setopt(handle, CURLOPT_FRESH_CONNECT, 1L);
     }
     curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
@@ -266,6 +267,8 @@ try {
         response.code = transfer.body.isLost() ? orv::ErrorCode::broken : orv::ErrorCode::none;
     }
     return response;
+} catch (std::bad_alloc const&) {
+    return failure(orv::ErrorCode::tooLarge);
 } catch (std::exception const&) {
     return failure(orv::ErrorCode::broken);
 }

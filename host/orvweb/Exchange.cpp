@@ -7,6 +7,7 @@
 #include "platform/text/Text.h"
 
 #include <memory>
+#include <new>
 #include <utility>
 
 namespace orvweb
@@ -51,7 +52,7 @@ std::shared_ptr<ITransport> setTransport(std::shared_ptr<ITransport> transport)
 
 orv::ErrorCode exchange(char const* operation, std::wstring const& root, orv::OmniInfo const& record,
                         HttpRequest::Kind kind, orv::IStatusUpdator* updater)
-{
+try {
     if (currentObserver()) {
         currentObserver()({operation, root, record});
     }
@@ -65,11 +66,15 @@ orv::ErrorCode exchange(char const* operation, std::wstring const& root, orv::Om
             updater->updateProgress(isUpload ? uploadKind : downloadKind, percent);
         };
     }
-    HttpResponse const response = currentTransport()->send(*request, progress);
+    HttpResponse response = currentTransport()->send(*request, progress);
     if (response.code == orv::ErrorCode::none && updater != nullptr) {
-        updater->updateResponse(downloadKind, orvtext::widenBytes(response.body));
+        // The bytes go as soon as they are widened: the text takes four times as much, and is copied.
+        std::wstring const text = orvtext::widenBytes(std::exchange(response.body, {}));
+        updater->updateResponse(downloadKind, text);
     }
     return response.code;
+} catch (std::bad_alloc const&) {
+    return orv::ErrorCode::tooLarge;
 }
 
 } // namespace orvweb

@@ -13,8 +13,8 @@ namespace orvweb
 
 /// What goes over the wire: all text UTF-8, not yet percent-encoded.
 struct HttpRequest {
-    /// A plain form may be sent again where a kept connection ended without an answer; what people would see twice may
-    /// not.
+    /// A plain form may be sent again where a kept connection ended without an answer; what would leave a second
+    /// token or what people would see twice may not.
     enum class Kind { get, form, formOnce, multipart };
     using Field = std::pair<std::string, std::string>;
 

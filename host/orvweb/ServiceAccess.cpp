@@ -22,7 +22,11 @@ std::wstring APIUtils::apiKey()
 
 std::vector<std::wstring> WebApiUtils::createToken(std::wstring const& name, std::wstring const& value)
 {
-    return {name, value};
+    std::vector<std::wstring> token; // not from a list, which would copy a long comment twice
+    token.reserve(2);
+    token.push_back(name);
+    token.push_back(value);
+    return token;
 }
 
 } // namespace orvweb

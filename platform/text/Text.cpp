@@ -206,20 +206,32 @@ std::string narrowLowBytes(std::wstring_view text)
     return bytes;
 }
 
+namespace
+{
+// Block by block, so that fresh memory, four times the bytes, is gone through once and not filled with zeros first.
+template <class Widen>
+std::wstring widened(std::string_view bytes, Widen widen)
+{
+    std::wstring text;
+    text.reserve(bytes.size());
+    std::array<wchar_t, blockLength> block;
+    for (; !bytes.empty(); bytes.remove_prefix(std::min(blockLength, bytes.size()))) {
+        const std::string_view part = bytes.substr(0, blockLength);
+        std::transform(part.begin(), part.end(), block.begin(), widen);
+        text.append(block.data(), part.size());
+    }
+    return text;
+}
+} // namespace
+
 std::wstring widenSignExtended(std::string_view bytes)
 {
-    std::wstring text(bytes.size(), L'\0');
-    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) {
-        return static_cast<wchar_t>(static_cast<char16_t>(static_cast<signed char>(byte)));
-    });
-    return text;
+    return widened(
+        bytes, [](char byte) { return static_cast<wchar_t>(static_cast<char16_t>(static_cast<signed char>(byte))); });
 }
 
 std::wstring widenBytes(std::string_view bytes)
 {
-    std::wstring text(bytes.size(), L'\0');
-    std::transform(bytes.begin(), bytes.end(), text.begin(),
-                   [](char byte) { return static_cast<wchar_t>(static_cast<unsigned char>(byte)); });
-    return text;
+    return widened(bytes, [](char byte) { return static_cast<wchar_t>(static_cast<unsigned char>(byte)); });
 }
 } // namespace orvtext

@@ -65,6 +65,8 @@ protected:
     /// files and where the secrets went.
     void meet(RequestRow const& request, Fault const& fault);
 
+    std::wstring model() const { return modelFile.wstring(); } ///< of the file that is sent
+
     ScriptedHttpServer service;
     ScriptedHttpServer elsewhere;
     PluginEnvironment environment;

@@ -105,4 +105,41 @@ INSTANTIATE_TEST_SUITE_P(OfTheEleven, Faults,
                              return std::string(std::get<0>(cell.param).name) + "_" + std::get<1>(cell.param).name;
                          });
 
+/// A service that closes the connection which the request before has left open.
+class KeptConnection : public orvtest::FaultTable, public testing::WithParamInterface<RequestRow>
+{
+protected:
+    void SetUp() override
+    {
+        FaultTable::SetUp();
+        service.expect("GET", "/before", Answer::ok("ok"));
+        orvweb::HttpRequest before;
+        before.url = service.url() + "/before";
+        auto const transport = orvweb::setTransport(nullptr);
+        orvweb::setTransport(transport);
+        ASSERT_EQ(transport->send(before, {}).code, orv::ErrorCode::none);
+    }
+
+    static bool mayBeRepeated(RequestRow const& request)
+    {
+        std::string const name = request.name;
+        return request.method == std::string("GET") || name == "addFeed" || name == "deleteFeed";
+    }
+};
+
+TEST_P(KeptConnection, ThatHangsUpIsTriedAnewWhereNothingCanHappenTwice)
+{
+    RequestRow const& request = GetParam();
+    if (mayBeRepeated(request)) {
+        service.expect(request.method, request.path, Answer::hangUp());
+        meet(request, delivered("HangUpThenAnswer", std::string(36, 'a')));
+    } else {
+        // The server fails the test where it hears of the request again.
+        meet(request, {"HangUp", Answer::hangUp()});
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(OfTheEleven, KeptConnection, testing::ValuesIn(orvtest::elevenRequests()),
+                         [](auto const& cell) { return std::string(cell.param.name); });
+
 } // namespace

@@ -74,14 +74,14 @@ TEST_F(Login, SendsThePasswordAndThenTheDevice)
     EXPECT_EQ(CloudHelper::login(L"ada@example.com", L"p+w d"), orvtext::fromUtf8(token));
 
     auto const& login = network.sent()[0];
-    EXPECT_EQ(login.request.kind, HttpRequest::Kind::form);
+    EXPECT_EQ(login.request.kind, HttpRequest::Kind::formOnce);
     EXPECT_THAT(login.request.fields, ElementsAreArray(std::vector<HttpRequest::Field>{
                                           {"name", apiId()}, {"username", "ada@example.com"}, {"password", "p+w d"}}));
     EXPECT_EQ(login.header("X-Api-Key"), apiKey());
     EXPECT_EQ(login.header("Authorization"), "");
 
     auto const& device = network.sent()[1];
-    EXPECT_EQ(device.request.kind, HttpRequest::Kind::form);
+    EXPECT_EQ(device.request.kind, HttpRequest::Kind::formOnce);
     EXPECT_THAT(
         device.request.fields,
         ElementsAreArray(std::vector<HttpRequest::Field>{
@@ -195,7 +195,7 @@ TEST_F(Logout, NamesTheUserAloneAndRemovesTheSession)
     });
     EXPECT_EQ(CloudHelper::logout(L"ada@example.com"), L"ok");
     auto const& sent = network.last();
-    EXPECT_EQ(sent.request.kind, HttpRequest::Kind::form);
+    EXPECT_EQ(sent.request.kind, HttpRequest::Kind::formOnce);
     EXPECT_THAT(sent.request.fields, ElementsAreArray(std::vector<HttpRequest::Field>{
                                          {"name", apiId()}, {"username", "ada@example.com"}, {"tokenID", "default"}}));
     EXPECT_EQ(sent.header("X-Api-Key"), apiKey());
