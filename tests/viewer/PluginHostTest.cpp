@@ -198,6 +198,16 @@ TEST_F(PluginHostTest, DeliversTheHintsOfADocumentsLife)
     EXPECT_GE(placeOf(takeEvents(), "hint 5"), 0);
 }
 
+TEST_F(PluginHostTest, TheFirstHintGivesAWayToTheApplicationWithoutAModel)
+{
+    install("Recording");
+    start();
+    auto const list = takeEvents();
+    EXPECT_EQ(std::count(list.begin(), list.end(), "hint 1 of no file"), 1);
+    EXPECT_EQ(std::count(list.begin(), list.end(), "pane hint 1"), 1);
+    EXPECT_FALSE(session->document()) << "the viewer itself has none";
+}
+
 TEST_F(PluginHostTest, ActivatesThePaneForEachOpenedModel)
 {
     install("Recording");

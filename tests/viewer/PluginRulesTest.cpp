@@ -28,8 +28,7 @@ protected:
     void SetUp() override
     {
         SessionFixture::SetUp();
-        std::filesystem::copy_file(std::filesystem::path(ORV_BINARY_DIR) / "lib" / "gui" / "cloudplugin.so",
-                                   guiFolder() / "cloudplugin.so");
+        installCloudPlugin();
         start();
         ASSERT_EQ(session->plugins().count(), 1U) << status();
         // The ribbon is built anew once the plug-in's panel has come to it.
@@ -60,10 +59,22 @@ protected:
     }
 };
 
-TEST_F(PluginRules, ShareFollowsTheSessionFileWhileIdle)
+TEST_F(PluginRules, BeforeTheFirstModelBothAreDisabled)
 {
     EXPECT_TRUE(becomes("Share", false));
-    EXPECT_TRUE(becomes("Push to cloud", true)) << "without a model both answer to the session alone";
+    EXPECT_TRUE(becomes("Push to cloud", false)) << "there is nothing to push";
+    signIn();
+    FileWatch watch(sessionFile());
+    EXPECT_TRUE(waitFor([&] { return !watch.events().empty(); })) << "the rules were asked anew";
+    EXPECT_TRUE(becomes("Share", false));
+    EXPECT_TRUE(becomes("Push to cloud", false));
+}
+
+TEST_F(PluginRules, ShareFollowsTheSessionFileWhileIdle)
+{
+    ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring())) << status();
+    EXPECT_TRUE(becomes("Share", false));
+    EXPECT_TRUE(becomes("Push to cloud", true));
     signIn();
     EXPECT_TRUE(becomes("Share", true));
     std::filesystem::remove(sessionFile());
@@ -97,6 +108,7 @@ TEST_F(PluginRules, BothFollowTheModelWhileIdle)
 TEST_F(PluginRules, AnIdleViewerOpensTheSessionFileAndReadsNothing)
 {
     signIn();
+    ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring())) << status();
     ASSERT_TRUE(becomes("Share", true));
     FileWatch watch(sessionFile());
     std::vector<std::string> seen;

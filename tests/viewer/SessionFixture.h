@@ -30,6 +30,13 @@ protected:
 
     std::filesystem::path guiFolder() const { return folder.path / "lib" / "gui"; }
 
+    /// Puts the product's plug-in where this viewer looks. The suite depends on the target `cloudplugin`.
+    void installCloudPlugin() const
+    {
+        std::filesystem::copy_file(std::filesystem::path(ORV_BINARY_DIR) / "lib" / "gui" / "cloudplugin.so",
+                                   guiFolder() / "cloudplugin.so");
+    }
+
     orvviewer::ViewerSession& start()
     {
         session.reset();

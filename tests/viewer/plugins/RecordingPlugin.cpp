@@ -33,6 +33,17 @@ void note([[maybe_unused]] std::string const& event)
 #endif
 }
 
+/// Nothing for a model.
+std::string kindOf(std::shared_ptr<orv::IDocument> const& document)
+{
+    auto const info = orv::recordOf<orvsg::SCInfo>(document);
+    auto const link = orv::recordOf<orv::SCApplication>(document);
+    if (!info || !link || !link->application) {
+        return " without document";
+    }
+    return *info->file() == L'\0' ? " of no file" : "";
+}
+
 class Pane : public orvui::IWOutlookPane<CWnd>
 {
 public:
@@ -99,12 +110,13 @@ public:
 #ifdef ORV_THROWING
         note("update");
 #endif
-        *enabled = command == action && document != nullptr;
+        auto const info = orv::recordOf<orvsg::SCInfo>(document);
+        *enabled = command == action && info && *info->file() != L'\0';
     }
 
     void OnUpdate(orv::IHint* hint) override
     {
-        note("hint " + std::to_string(hint->getCode()) + (hint->getDocument() ? "" : " without document"));
+        note("hint " + std::to_string(hint->getCode()) + kindOf(hint->getDocument()));
         document = hint->getDocument();
         // On a document's opening a hint is raised from within one, as feed panes do.
         if (hint->getCode() == orv::HintCode::documentOpened) {
