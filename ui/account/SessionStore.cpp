@@ -4,7 +4,6 @@
 #include "host/orvweb/Directories.h"
 #include "platform/text/Text.h"
 #include "service/RequestFile.h"
-#include "ui/account/ByteCodecvt.h"
 
 #include <windows.h>
 
@@ -29,29 +28,54 @@ bool readLines(SessionFile const& session, std::initializer_list<std::wstring*> 
     if (!session.canOpen()) {
         return false;
     }
-    std::wifstream file;
-    file.imbue(byteLocale());
-    file.open(nativePath(session));
+    std::ifstream file(nativePath(session), std::ios::binary);
     if (file.is_open()) {
         for (std::wstring* const line : lines) {
-            std::getline(file, *line);
+            std::string bytes;
+            bool const isFound = static_cast<bool>(std::getline(file, bytes));
+            *line = orvtext::widenBytes(bytes); // empty where nothing was found
+            if (!isFound) {
+                break;
+            }
         }
     }
     return true;
 }
 
-void writeLines(SessionFile const& session, std::initializer_list<std::wstring const*> lines)
+/// The bytes of a field up to the first character that has none.
+std::string bytesOf(std::wstring const& field)
 {
+    constexpr wchar_t lastByte = L'\u00ff';
+    std::string bytes;
+    bytes.reserve(field.size() + 1); // for the line end
+    for (wchar_t const character : field) {
+        if (character < L'\0' || character > lastByte) {
+            break;
+        }
+        bytes.push_back(static_cast<char>(character));
+    }
+    return bytes;
+}
+
+/// A line goes out whole and at once: an answer that fills memory in place of a token must not hold up the window with
+/// a system call a character.
+void writeLines(SessionFile const& session, std::initializer_list<std::wstring const*> fields)
+{
+    session.makePrivate();
     if (!session.canOpen()) {
         session.createEmpty(); // a stream would make it readable for others
     }
-    std::wofstream file;
-    file.imbue(byteLocale());
-    // Unbuffered: what stands before a character that has no byte is in the file by then, and only once.
-    file.rdbuf()->pubsetbuf(nullptr, 0);
-    file.open(nativePath(session));
-    for (std::wstring const* const line : lines) {
-        file << *line << std::endl;
+    std::ofstream file(nativePath(session), std::ios::binary);
+    for (std::wstring const* const field : fields) {
+        std::string line = bytesOf(*field);
+        bool const isWhole = line.size() == field->size();
+        if (isWhole) {
+            line.push_back('\n');
+        }
+        file.write(line.data(), static_cast<std::streamsize>(line.size())).flush();
+        if (!isWhole) {
+            return;
+        }
     }
 }
 
@@ -68,7 +92,7 @@ bool SessionFile::canOpen() const
     // A stream opens a directory as well, and waits at a pipe.
     std::filesystem::path const file = nativePath(*this);
     std::error_code missing;
-    return std::filesystem::is_regular_file(file, missing) && std::wifstream(file).is_open();
+    return std::filesystem::is_regular_file(file, missing) && std::ifstream(file).is_open();
 }
 
 bool SessionFile::read(orvweb::UserInfo& user) const
@@ -98,7 +122,26 @@ void SessionFile::write(std::wstring const& username, std::wstring const& userid
 
 void SessionFile::createEmpty() const
 {
+    makePrivate();
     createEmptyFile(filePath);
+}
+
+void SessionFile::makePrivate() const
+{
+    std::filesystem::path const file = nativePath(*this);
+    std::error_code error;
+    switch (std::filesystem::status(file, error).type()) {
+    case std::filesystem::file_type::regular:
+        // The rights of a file that was there stay through everything that is written to it.
+        std::filesystem::permissions(file, std::filesystem::perms::owner_read | std::filesystem::perms::owner_write,
+                                     error);
+        break;
+    case std::filesystem::file_type::not_found:
+    case std::filesystem::file_type::none: // can't be looked at
+        break;
+    default:
+        remove(); // a pipe would be waited at for ever; a directory stays
+    }
 }
 
 void SessionFile::remove() const

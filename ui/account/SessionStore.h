@@ -28,6 +28,8 @@ public:
     void write(std::wstring const& username, std::wstring const& userid) const;
     void write(std::wstring const& username, std::wstring const& userid, std::wstring const& name) const;
 
+    /// Leaves at the path a file that the user alone may read, or none: what is no file there, a pipe for one, goes.
+    void makePrivate() const;
     void createEmpty() const;     ///< whoever was signed in is so no longer
     void remove() const;          ///< nothing happens where there is none
     void removeDirectory() const; ///< fails silently while other files lie in it; it is made again on demand

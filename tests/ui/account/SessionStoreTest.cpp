@@ -1,39 +1,23 @@
 #include "ui/account/SessionStore.h"
 
 #include "support/FileWatch.h"
+#include "support/OrdinaryUser.h"
 #include "support/PluginEnvironment.h"
+#include "support/WriteCalls.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <sys/syscall.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <vector>
 
 using orvtest::contentOf;
 using orvtest::writeFile;
-
-namespace
-{
-
-/// What has reached the file after each write of this program; null while nobody asks.
-std::vector<std::string>* contents = nullptr;
-
-} // namespace
-
-/// Stands before the system's function throughout this program.
-extern "C" ssize_t write(int file, void const* data, std::size_t size)
-{
-    if (contents != nullptr) {
-        std::string const before = contents->empty() ? std::string() : contents->back();
-        contents->push_back(before + std::string(static_cast<char const*>(data), size));
-    }
-    return syscall(SYS_write, file, data, size);
-}
 
 namespace
 {
@@ -81,15 +65,23 @@ TEST_F(SessionStore, EndsEveryLine)
 
 TEST_F(SessionStore, FlushesAtEachLineEnd)
 {
-    std::vector<std::string> seen;
     SessionFile const session;
-    contents = &seen;
+    orvtest::WriteCalls const calls;
     session.write(L"ada@example.com", L"token", L"Ada");
-    contents = nullptr;
-    EXPECT_THAT(seen, testing::Contains("ada@example.com\n"));
-    EXPECT_THAT(seen, testing::Contains("ada@example.com\ntoken\n"));
-    ASSERT_FALSE(seen.empty());
-    EXPECT_EQ(seen.back(), "ada@example.com\ntoken\nAda\n");
+    EXPECT_EQ(calls.texts(), (std::vector<std::string>{"ada@example.com\n", "token\n", "Ada\n"}));
+}
+
+TEST_F(SessionStore, WritesALineOfAnyLengthAtOnce)
+{
+    SessionFile const session;
+    std::wstring const endless(std::size_t{64} << 20U, L'x');
+    orvtest::WriteCalls const calls;
+    session.write(L"ada@example.com", endless);
+    EXPECT_LE(calls.count(), 4U);
+    EXPECT_EQ(std::filesystem::file_size(environment.session()), endless.size() + 17);
+    session.write(L"ada@example.com", token, endless + L"\u0100");
+    EXPECT_LE(calls.count(), 10U);
+    EXPECT_EQ(std::filesystem::file_size(environment.session()), endless.size() + 53) << "cut, with no line end";
 }
 
 TEST_F(SessionStore, ReadsBackWhatItWrote)
@@ -205,6 +197,25 @@ TEST_F(SessionStore, ReadsALastLineWithoutItsEnd)
     EXPECT_EQ(user.name, L"Ada");
 }
 
+TEST_F(SessionStore, EmptiesTheFirstFieldBehindALineWithoutItsEnd)
+{
+    writeFile(environment.session(), "ada@example.com");
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.username, L"ada@example.com");
+    EXPECT_EQ(user.userid, L"");
+    EXPECT_EQ(user.name, L"before");
+    user.userid = L"before";
+    ASSERT_TRUE(SessionFile().readTwo(user));
+    EXPECT_EQ(user.userid, L"");
+
+    user.userid = L"before";
+    writeFile(environment.session(), "ada@example.com\ntoken");
+    ASSERT_TRUE(SessionFile().read(user));
+    EXPECT_EQ(user.username, L"ada@example.com");
+    EXPECT_EQ(user.userid, L"token");
+    EXPECT_EQ(user.name, L"");
+}
+
 TEST_F(SessionStore, TakesEveryByteForACharacter)
 {
     std::string bytes;
@@ -268,6 +279,60 @@ TEST_F(SessionStore, IsForTheUserAlone)
     EXPECT_EQ(std::filesystem::status(environment.session()).permissions(), perms::owner_read | perms::owner_write);
     SessionFile().createEmpty();
     EXPECT_EQ(std::filesystem::status(environment.session()).permissions(), perms::owner_read | perms::owner_write);
+}
+
+TEST_F(SessionStore, TakesTheRightsOfOthersFromAFileThatIsThere)
+{
+    using std::filesystem::perms;
+    perms const forAll = static_cast<perms>(0666);
+    perms const forTheUser = perms::owner_read | perms::owner_write;
+    SessionFile().createEmpty();
+    std::filesystem::permissions(environment.session(), forAll);
+    SessionFile().write(L"ada@example.com", token);
+    EXPECT_EQ(std::filesystem::status(environment.session()).permissions(), forTheUser);
+    std::filesystem::permissions(environment.session(), forAll);
+    SessionFile().createEmpty();
+    EXPECT_EQ(std::filesystem::status(environment.session()).permissions(), forTheUser);
+    EXPECT_EQ(contentOf(environment.session()), "");
+}
+
+TEST_F(SessionStore, TakesThePlaceOfAPipe)
+{
+    for (bool const isLogin : {true, false}) {
+        SCOPED_TRACE(isLogin);
+        SessionFile const session;
+        session.remove();
+        ASSERT_EQ(mkfifo(environment.session().c_str(), 0600), 0);
+        // With this end open nobody waits at the pipe, so that a failure is no hang.
+        int const otherEnd = open(environment.session().c_str(), O_RDWR | O_NONBLOCK);
+        EXPECT_FALSE(session.canOpen());
+        if (isLogin) {
+            session.createEmpty();
+        } else {
+            session.write(L"ada@example.com", token);
+        }
+        EXPECT_TRUE(std::filesystem::is_regular_file(environment.session()));
+        EXPECT_EQ(contentOf(environment.session()),
+                  isLogin ? "" : "ada@example.com\n0f8fad5b-d9cb-469f-a165-70867728950e\n");
+        close(otherEnd);
+    }
+}
+
+TEST_F(SessionStore, ThatMayNotBeReadIsNone)
+{
+    SessionFile const session;
+    session.write(L"ada@example.com", token, L"Ada");
+    std::filesystem::permissions(environment.session(), std::filesystem::perms::none);
+    orvtest::OrdinaryUser const person(environment.data.parent_path());
+    EXPECT_FALSE(session.canOpen());
+    EXPECT_FALSE(session.read(user));
+    EXPECT_FALSE(session.readTwo(user));
+    EXPECT_FALSE(session.readFirst(user.name));
+    EXPECT_EQ(user.username, L"before");
+    EXPECT_EQ(user.userid, L"before");
+    EXPECT_EQ(user.name, L"before");
+    session.createEmpty(); // the next login
+    EXPECT_TRUE(session.canOpen());
 }
 
 TEST_F(SessionStore, ReportsNothingWhereItCantBeWritten)
