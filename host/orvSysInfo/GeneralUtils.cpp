@@ -2,10 +2,13 @@
 
 #include "host/orv/FileUtils.h"
 #include "host/orv/GUID.h"
+#include "host/orvSysInfo/ReleaseFile.h"
 #include "host/runtime/Files.h"
 #include "platform/text/Text.h"
 
+#include <filesystem>
 #include <sstream>
+#include <utility>
 
 #include <sys/utsname.h>
 
@@ -31,6 +34,22 @@ std::string releaseValue(std::string const& content, std::string const& key)
     return {};
 }
 
+std::filesystem::path& releaseFile()
+{
+    static std::filesystem::path file;
+    return file;
+}
+
+std::string releaseFileContent()
+{
+    constexpr std::size_t limit = 65536;
+    if (!releaseFile().empty()) {
+        return orvhost::readFile(releaseFile(), limit);
+    }
+    std::string content = orvhost::readFile("/etc/os-release", limit);
+    return content.empty() ? orvhost::readFile("/usr/lib/os-release", limit) : content;
+}
+
 void addLine(std::wstring& body, wchar_t const* label, std::wstring const& text)
 {
     if (!text.empty()) {
@@ -41,6 +60,11 @@ void addLine(std::wstring& body, wchar_t const* label, std::wstring const& text)
 }
 
 } // namespace
+
+void setReleaseFile(std::filesystem::path file)
+{
+    releaseFile() = std::move(file);
+}
 
 std::wstring GeneralUtils::getApplicationInfo()
 {
@@ -78,11 +102,7 @@ std::wstring GeneralUtils::getSignature()
 
 bool GeneralUtils::getOSName(std::wstring& name, std::wstring& version)
 {
-    constexpr std::size_t limit = 65536;
-    std::string content = orvhost::readFile("/etc/os-release", limit);
-    if (content.empty()) {
-        content = orvhost::readFile("/usr/lib/os-release", limit);
-    }
+    std::string const content = releaseFileContent();
     std::string const fullName = releaseValue(content, "PRETTY_NAME");
     if (fullName.empty()) {
         return false;

@@ -26,6 +26,13 @@ constexpr int offerLink = 1037;
 constexpr int unusedLink = 1043;
 constexpr INT_PTR stillOpen = 77;
 
+class OpenLoginDlg final : public CloudLoginDlg
+{
+public:
+    using CloudLoginDlg::CloudLoginDlg;
+    using CWnd::OnNotify;
+};
+
 class LoginTest : public UiTest
 {
 protected:
@@ -298,6 +305,25 @@ TEST_F(LoginTest, AnyOtherTargetDoesNothing)
         }
         EXPECT_TRUE(opened.empty());
     });
+}
+
+TEST_F(LoginTest, AClickOnALinkIsAnsweredWithZeroWhateverItsTarget)
+{
+    modals.expectModal<OpenLoginDlg>([](OpenLoginDlg& dialog) -> INT_PTR {
+        NMLINK click{};
+        click.hdr = {dialog.GetDlgItem(offerLink)->GetSafeHwnd(), offerLink, static_cast<UINT>(NM_CLICK)};
+        for (std::wstring const& target : {std::wstring(buildSettings::serviceUrl),
+                                           std::wstring(buildSettings::supportAddress), std::wstring(L"elsewhere")}) {
+            std::copy(target.c_str(), target.c_str() + target.size() + 1, click.item.szUrl);
+            LRESULT result = 7;
+            EXPECT_TRUE(dialog.OnNotify(offerLink, reinterpret_cast<LPARAM>(&click), &result));
+            EXPECT_EQ(result, 0);
+        }
+        return IDCANCEL;
+    });
+    scene.document->setSchema(orv::SCApplication::key, nullptr); // no mail goes out
+    OpenLoginDlg dialog(scene.document, user, helper);
+    dialog.DoModal();
 }
 
 TEST_F(LoginTest, TheLinksAreTheSameInEveryLanguage)
