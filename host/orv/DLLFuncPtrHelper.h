@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
 
 namespace orv
 {
@@ -16,24 +17,16 @@ class DLLFuncPtrHelper
 {
 public:
     DLLFuncPtrHelper(wchar_t const* path, char const* createName, char const* destroyName)
-        : entry(path, createName, destroyName)
+        : entry(path, createName, destroyName), object(static_cast<T*>(entry.makeObject()))
     {
-        if (entry.create != nullptr) {
-            entry.create(reinterpret_cast<void**>(&object));
-            if (object == nullptr) {
-                entry.failure = LibraryEntry::Failure::madeNothing;
-                entry.errorText = L"The library was loaded but made no object. Reinstall it and try again.";
-            }
-        }
     }
-    ~DLLFuncPtrHelper()
-    {
-        if (object != nullptr) {
-            entry.destroy(reinterpret_cast<void**>(&object));
-        }
-    }
+    ~DLLFuncPtrHelper() { LibraryEntry::complain(release()); }
     DLLFuncPtrHelper(DLLFuncPtrHelper const&) = delete;
     DLLFuncPtrHelper& operator=(DLLFuncPtrHelper const&) = delete;
+
+    /// Destroys the object before the helper's end. Gives the sentence about a library that threw, else an empty one;
+    /// nothing that it throws gets out.
+    std::wstring release() { return entry.destroyObject(std::exchange(object, nullptr)); }
 
     bool isValid() const { return object != nullptr; }
     T* get() const { return object; } ///< null where isValid is false

@@ -5,7 +5,9 @@
 #include "platform/Process.h"
 #include "platform/text/Text.h"
 
+#include <exception>
 #include <filesystem>
+#include <iostream>
 #include <system_error>
 
 namespace orv
@@ -31,18 +33,41 @@ LibraryEntry::Function entryPoint(HINSTANCE module, char const* name)
     return reinterpret_cast<LibraryEntry::Function>(reinterpret_cast<void (*)()>(address));
 }
 
+/// Runs the call; false where something was thrown, with the first line of what it says. The exception is gone by the
+/// time this returns.
+template <class Call>
+bool runs(Call&& call, std::wstring& reason)
+{
+    try {
+        call();
+        return true;
+    } catch (std::exception const& exception) {
+        std::string const text(exception.what());
+        reason = orvtext::fromUtf8(text.substr(0, text.find_first_of("\r\n")));
+    } catch (...) {
+        reason.clear();
+    }
+    return false;
+}
+
+/// The end of a sentence that may have a reason.
+std::wstring because(std::wstring const& reason)
+{
+    return reason.empty() ? L"." : L": \"" + reason + L"\".";
+}
+
 } // namespace
 
 LibraryEntry::LibraryEntry(wchar_t const* path, char const* createName, char const* destroyName)
 {
     std::wstring const file(path == nullptr ? L"" : path);
-    std::wstring const name = FileUtils::getStatusFileName(platformName(file).c_str());
+    name = FileUtils::getStatusFileName(platformName(file).c_str());
     module = LoadLibraryW(file.c_str());
     if (module == nullptr) {
         std::error_code error;
         bool const isThere = std::filesystem::exists(orvhost::nativePath(platformName(file)), error);
         failure = isThere ? Failure::notALibrary : Failure::missing;
-        errorText = isThere ? L"The library \"" + name + L"\" can't be loaded: " + orvplatform::lastModuleError()
+        errorText = isThere ? L"The library \"" + name + L"\" can't be loaded" + because(orvplatform::lastModuleError())
                             : L"The library \"" + name + L"\" is missing.";
         errorText += advice;
         return;
@@ -57,6 +82,42 @@ LibraryEntry::LibraryEntry(wchar_t const* path, char const* createName, char con
         create = destroy = nullptr;
         FreeLibrary(module);
         module = nullptr;
+    }
+}
+
+void* LibraryEntry::makeObject()
+{
+    if (create == nullptr) {
+        return nullptr;
+    }
+    void* object = nullptr;
+    std::wstring reason;
+    if (!runs([&] { create(&object); }, reason)) {
+        failure = Failure::threw;
+        errorText = L"The library \"" + name + L"\" failed to start" + because(reason) + advice;
+        return nullptr;
+    }
+    if (object == nullptr) {
+        failure = Failure::madeNothing;
+        errorText = L"The library \"" + name + L"\" made no object." + advice;
+    }
+    return object;
+}
+
+std::wstring LibraryEntry::destroyObject(void* object)
+{
+    std::wstring reason;
+    if (object == nullptr || runs([&] { destroy(&object); }, reason)) {
+        return {};
+    }
+    return L"The library \"" + name + L"\" failed to end" + because(reason) +
+           L" Save your work and start Orvanta anew.";
+}
+
+void LibraryEntry::complain(std::wstring const& sentence)
+{
+    if (!sentence.empty()) {
+        std::cerr << orvtext::toUtf8(sentence) << std::endl;
     }
 }
 

@@ -110,7 +110,7 @@ TEST_F(PluginHostTest, ALibraryThatThrowsWhenLoadedIsASentence)
 {
     install("Refusing");
     start();
-    expectRefused("cloudplugin.so", "failed to start: refused on purpose");
+    expectRefused("cloudplugin.so", "failed to start: \"refused on purpose, for a reason that is kept on the heap\"");
 }
 
 TEST_F(PluginHostTest, APluginOfAnotherKindIsASentence)
@@ -120,9 +120,21 @@ TEST_F(PluginHostTest, APluginOfAnotherKindIsASentence)
     expectRefused("cloudplugin.so", "is no plug-in for the viewer's windows");
 }
 
+TEST_F(PluginHostTest, APluginThatThrowsWhenItIsDestroyedIsASentence)
+{
+    install("Unending"); // of another kind, so it is destroyed at once
+    start();
+    expectRefused("cloudplugin.so", "failed to end: \"ended on purpose\"");
+    session.reset();
+    std::filesystem::remove(installed());
+    install("Throwing");
+    start();
+    session.reset(); // with a plug-in that throws as the viewer ends
+}
+
 TEST_F(PluginHostTest, ABadLibraryLeavesTheOthersAlone)
 {
-    for (char const* const bad : {"NoEntry", "Empty", "Refusing", "Other"}) {
+    for (char const* const bad : {"NoEntry", "Empty", "Refusing", "Other", "Unending"}) {
         SCOPED_TRACE(bad);
         session.reset();
         std::filesystem::remove_all(guiFolder());

@@ -9,7 +9,6 @@
 #include <afxwin.h>
 
 #include <algorithm>
-#include <exception>
 #include <filesystem>
 #include <set>
 #include <utility>
@@ -32,13 +31,6 @@ std::wstring named(std::wstring const& path)
     return L"The library \"" + orvtext::fromUtf8(file.filename().string()) + L"\"";
 }
 
-/// The first line of what an exception says.
-std::wstring reasonOf(char const* what)
-{
-    std::string const text(what);
-    return orvtext::fromUtf8(text.substr(0, text.find_first_of("\r\n")));
-}
-
 } // namespace
 
 PluginHost::PluginHost(Services initial) : services(std::move(initial)), nextCommand(firstPluginCommand) {}
@@ -47,7 +39,9 @@ PluginHost::~PluginHost()
 {
     for (auto& loaded : plugins) {
         services.notifier->remove(loaded.plugin);
-        services.barrier->run([&loaded] { loaded.library.reset(); });
+        if (auto const sentence = loaded.library->release(); !sentence.empty()) {
+            services.report(sentence);
+        }
     }
 }
 
@@ -69,16 +63,8 @@ void PluginHost::loadAll(std::wstring const& folder)
 bool PluginHost::load(std::wstring const& path)
 {
     Loaded loaded;
-    try {
-        loaded.library =
-            std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(path.c_str(), "createPlugin", "destroyPlugin");
-    } catch (std::exception const& exception) {
-        services.report(named(path) + L" failed to start: " + reasonOf(exception.what()) + L"." + advice);
-        return false;
-    } catch (...) {
-        services.report(named(path) + L" failed to start." + advice);
-        return false;
-    }
+    loaded.library =
+        std::make_shared<orv::DLLFuncPtrHelper<orv::IPlugin>>(path.c_str(), "createPlugin", "destroyPlugin");
     if (loaded.library->failure() == orv::LibraryEntry::Failure::madeNothing) {
         services.report(named(path) + L" made no plug-in." + advice);
         return false;
@@ -90,6 +76,9 @@ bool PluginHost::load(std::wstring const& path)
     loaded.plugin = dynamic_cast<orvui::IGUIPlugin*>(loaded.library->get());
     if (loaded.plugin == nullptr) {
         services.report(named(path) + L" is no plug-in for the viewer's windows. Move it out of the folder \"gui\".");
+        if (auto const sentence = loaded.library->release(); !sentence.empty()) {
+            services.report(sentence);
+        }
         return false;
     }
     loaded.resources = std::make_shared<PluginResources>(nextCommand, [this](HWND window) { enrol(window); });

@@ -1,6 +1,8 @@
-// A plug-in of another kind: it has no windows.
+// A plug-in of another kind: it has no windows. Built with ORV_THROWING it doesn't end well, either.
 
 #include "host/orv/IPlugin.h"
+
+#include <stdexcept>
 
 namespace
 {
@@ -31,5 +33,9 @@ extern "C" int destroyPlugin(orv::IPlugin** plugin)
 {
     delete *plugin;
     *plugin = nullptr;
+#ifdef ORV_THROWING
+    throw std::runtime_error("ended on purpose");
+#else
     return 0;
+#endif
 }

@@ -147,7 +147,11 @@ extern "C" int destroyPlugin(orv::IPlugin** plugin)
     events().push_back("destroyed");
     delete *plugin;
     *plugin = nullptr;
+#ifdef ORV_THROWING
+    throw std::runtime_error("ended on purpose");
+#else
     return 0;
+#endif
 }
 
 /// The events so far; they are forgotten with that.
