@@ -91,10 +91,14 @@ unsigned long channelOf(float value)
 
 void restoreView(std::shared_ptr<orv::IDocument> const& document, Feed const& feed)
 {
-    if (!document) {
-        return;
+    if (document) {
+        SceneRecords records(document);
+        restoreView(document, records, feed);
     }
-    SceneRecords records(document);
+}
+
+void restoreView(std::shared_ptr<orv::IDocument> const& document, SceneRecords& records, Feed const& feed)
+{
     FeedObjects const& objects = feed.comment.objects;
     resetAppearance(records);
     resetTransforms(records);

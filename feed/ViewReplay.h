@@ -11,6 +11,8 @@
 /// Records that the document lacks are passed over; node numbers outside the model have no effect. An empty document
 /// does nothing.
 void restoreView(std::shared_ptr<orv::IDocument> const& document, Feed const& feed);
+/// The same with the document's records, which the caller has fetched.
+void restoreView(std::shared_ptr<orv::IDocument> const& document, SceneRecords& records, Feed const& feed);
 
 /// Puts every node back to its initial placement. The result holds all nodes, not the moved ones alone.
 std::set<int> resetTransforms(SceneRecords& records);

@@ -4,6 +4,7 @@
 #include "host/orvgl/CameraHelper.h"
 #include "host/orvsgutils/BBoxUtils.h"
 #include "host/orvsgutils/MaterialUtils.h"
+#include "support/ListeningDocument.h"
 #include "support/RecordingApplication.h"
 #include "support/TestScene.h"
 
@@ -309,26 +310,9 @@ TEST_F(ViewReplay, LeavesTheRecordAlone)
     EXPECT_EQ(feed, before);
 }
 
-/// Keeps the keys that it is asked for.
-class ListeningDocument final : public orv::IDocument
-{
-public:
-    explicit ListeningDocument(std::shared_ptr<orv::IDocument> records) : source(std::move(records)) {}
-    std::shared_ptr<orvsg::Schema> getSchema(short const& key) override
-    {
-        keys.push_back(key);
-        return source->getSchema(key);
-    }
-
-    std::vector<short> keys;
-
-private:
-    std::shared_ptr<orv::IDocument> source;
-};
-
 TEST_F(ViewReplay, AsksForTheRecordsInTheirOrder)
 {
-    auto const document = std::make_shared<ListeningDocument>(scene.document);
+    auto const document = std::make_shared<orvtest::ListeningDocument>(scene.document);
     restoreView(document, feed);
     EXPECT_THAT(document->keys, ElementsAre(orvsg::SCSceneRes::key, orvsg::SCSceneTopo::key, orvsg::SCPmi::key,
                                             orvsg::SCSceneRT::key, orvsg::SCInfo::key, orvgl::SCRenderer::key,

@@ -1,17 +1,13 @@
 // What a click on a block and on its delete button does.
 
 #include "feed/RaiseHint.h"
+#include "feed/SceneRecords.h"
 #include "feed/ViewReplay.h"
 #include "host/orv/FilePath.h"
 #include "host/orv/FileUtils.h"
-#include "host/orv/SCApplication.h"
-#include "host/orvsg/SCBom.h"
-#include "host/orvsg/SCInfo.h"
-#include "host/orvsg/SCSceneTopo.h"
 #include "host/orvsgutils/BOMUtils.h"
 #include "service/FeedRequests.h"
 #include "service/PluginText.h"
-#include "ui/DocumentServices.h"
 #include "ui/ResourceIds.h"
 #include "ui/feed/FeedBlock.h"
 
@@ -50,14 +46,14 @@ Output const* outputOf(std::wstring const& kind)
 }
 
 /// May be empty: a document without the record has the host asked to make one, which it needn't do.
-std::shared_ptr<orvsg::SCBom> billOfMaterials(std::shared_ptr<orv::IDocument> const& document)
+std::shared_ptr<orvsg::SCBom> billOfMaterials(std::shared_ptr<orv::IDocument> const& document,
+                                              SceneRecords const& records)
 {
-    auto bom = orv::recordOf<orvsg::SCBom>(document, orvsg::SCBom::BOM);
-    if (!bom) {
-        orvsgutils::BOMUtils::createBOM(orv::recordOf<orvsg::SCSceneTopo>(document), bom, 0);
-        bom = orv::recordOf<orvsg::SCBom>(document, orvsg::SCBom::BOM);
+    if (records.bom) {
+        return records.bom;
     }
-    return bom;
+    orvsgutils::BOMUtils::createBOM(records.topology, records.bom, 0);
+    return orv::recordOf<orvsg::SCBom>(document, orvsg::SCBom::BOM);
 }
 
 } // namespace
@@ -68,13 +64,13 @@ void FeedBlock::OnLButtonDown(UINT flags, CPoint point)
     if (!document) {
         return;
     }
+    SceneRecords records(document);
     if (record.comment.commentType != L"auto") {
-        restoreView(document, record);
+        restoreView(document, records, record);
         return;
     }
     if (record.action.type == L"download") {
-        auto const bom = billOfMaterials(document);
-        download(orv::recordOf<orvsg::SCInfo>(document), bom, applicationOf(document));
+        download(records.info, billOfMaterials(document, records), records.application);
     }
 }
 
