@@ -50,6 +50,7 @@ TEST(EmailAddress, MayBeAsLongAsSomebodyPastes)
     EXPECT_TRUE(isValidEmail(std::wstring(320 - host.size(), L'a') + host)) << "the longest that mail knows";
     EXPECT_TRUE(isValidEmail(std::wstring(512 - host.size(), L'a') + host));
     EXPECT_TRUE(isValidEmail(std::wstring(512 - host.size(), L'_') + host)) << "the longest search";
+    EXPECT_FALSE(isValidEmail(std::wstring(250, L'_') + L"@" + std::wstring(250, L'b'))) << "many ways, none matches";
     EXPECT_FALSE(isValidEmail(std::wstring(513 - host.size(), L'a') + host));
     EXPECT_FALSE(isValidEmail(std::wstring(512, L'_')));
     EXPECT_FALSE(isValidEmail(std::wstring(20000000, L'a') + host));

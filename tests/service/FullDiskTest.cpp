@@ -1,5 +1,7 @@
-// A disk that fills up while the exporter writes: the temporary directory lies on a small file system in memory.
+// A disk that fills up while the exporter writes: the temporary directory lies on a small file system in memory, or,
+// which needs no right to mount one, no file of this process can grow.
 
+#include "tests/exporters/FullDisk.h"
 #include "tests/service/MultipartForm.h"
 #include "tests/service/PushFixture.h"
 
@@ -11,6 +13,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <memory>
 #include <random>
 
 #include <sched.h>
@@ -49,14 +52,18 @@ bool takeOwnMounts()
     return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-class FullDisk : public testing::Test
+enum class Disk { mounted, limited };
+
+class FullDisk : public testing::TestWithParam<Disk>
 {
 protected:
     static constexpr std::size_t diskBytes = 256 << 10;
 
     void SetUp() override
     {
-        if (!mayMount) {
+        isMounted = GetParam() == Disk::mounted;
+        if (isMounted && !mayMount) {
+            isMounted = false;
             GTEST_SKIP() << "skipped: this user may not mount a file system of a test's own";
         }
         push = std::make_unique<PushScene>(); // the user's data stay where there is room
@@ -64,7 +71,9 @@ protected:
         std::filesystem::remove_all(PushScene::temporary(""));
         disk = std::filesystem::temp_directory_path() / ("orvanta-disk-" + std::to_string(getpid()));
         std::filesystem::create_directories(disk);
-        ASSERT_EQ(::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=256k"), 0);
+        if (isMounted) {
+            ASSERT_EQ(::mount("tmpfs", disk.c_str(), "tmpfs", 0, "size=256k"), 0);
+        }
         ::setenv("TMPDIR", disk.c_str(), 1);
         ASSERT_EQ(PushScene::temporary("").parent_path().parent_path(), disk);
         push->environment.setService(server.wideUrl());
@@ -72,24 +81,34 @@ protected:
     }
     void TearDown() override
     {
+        limit.reset();
         push.reset();
         if (!disk.empty()) {
             std::filesystem::remove_all(PushScene::temporary(""));
             ::unsetenv("TMPDIR");
-            EXPECT_EQ(::umount(disk.c_str()), 0) << "something on the disk is still open";
-            std::filesystem::remove(disk);
+            EXPECT_TRUE(!isMounted || ::umount(disk.c_str()) == 0) << "something on the disk is still open";
+            std::filesystem::remove_all(disk);
         }
     }
 
     /// Takes all the room but so many bytes.
-    void leaveFree(std::size_t bytes) const
+    void leaveFree(std::size_t bytes)
     {
+        if (!isMounted) {
+            limit = std::make_unique<prctest::FullDisk>(bytes);
+            return;
+        }
         struct statvfs state {
         };
         ASSERT_EQ(::statvfs(disk.c_str(), &state), 0);
         std::size_t const free = state.f_bfree * state.f_bsize;
         ASSERT_GE(free, bytes);
         std::ofstream(ballast()) << std::string(free - bytes, 'x');
+    }
+    void makeRoom()
+    {
+        limit.reset();
+        std::filesystem::remove(ballast());
     }
     std::filesystem::path ballast() const { return disk / "ballast"; }
     /// A model whose PRC file has more than `bytes` bytes: points that nothing can pack.
@@ -126,37 +145,39 @@ protected:
 
     ScriptedHttpServer server;
     std::filesystem::path disk;
+    bool isMounted = false;
+    std::unique_ptr<prctest::FullDisk> limit;
     std::unique_ptr<PushScene> push;
 };
 
-TEST_F(FullDisk, DirectSendsNothingOfACopyThatDidNotFit)
+TEST_P(FullDisk, DirectSendsNothingOfACopyThatDidNotFit)
 {
     openLargeModel();
     for (std::size_t const room : {std::size_t{0}, std::size_t{4096}, diskBytes / 4}) {
         ASSERT_NO_FATAL_FAILURE(leaveFree(room));
         EXPECT_EQ(pushDirect(), L"failed");
         expectFailure();
-        std::filesystem::remove(ballast());
+        makeRoom();
     }
     EXPECT_EQ(server.connections(), 0) << "not a byte went out";
 }
 
-TEST_F(FullDisk, DirectGoesThroughOnceThereIsRoomAgain)
+TEST_P(FullDisk, DirectGoesThroughOnceThereIsRoomAgain)
 {
     ASSERT_NO_FATAL_FAILURE(leaveFree(0));
     EXPECT_EQ(pushDirect(), L"failed");
-    std::filesystem::remove(ballast());
+    makeRoom();
     server.expect("POST", "/api/UploadInput/", Answer::ok(job));
     EXPECT_EQ(pushDirect(), orvtext::fromUtf8(job));
     EXPECT_NE(server.last().body.find("\r\n\r\nPRC"), std::string::npos);
     EXPECT_THAT(PushScene::leftBehind(), IsEmpty());
 }
 
-TEST_F(FullDisk, WithPreviewSendsNoNativeFileThatDidNotFit)
+TEST_P(FullDisk, WithPreviewSendsNoNativeFileThatDidNotFit)
 {
-    ASSERT_NO_FATAL_FAILURE(leaveFree(0));
     std::string const picture = "picture";
     writeFile(push->environment.data / "Orvanta/RecentFile/asm_gear.box.bmp", picture);
+    ASSERT_NO_FATAL_FAILURE(leaveFree(0));
     server.expect("POST", "/api/Upload/", Answer::ok(job));
     EXPECT_EQ(push->pushWithPreview(), orvtext::fromUtf8(job));
     expectUpload(server.last(), {"png", "gear.box.step", "asm_gear.box.bmp", picture});
@@ -164,7 +185,7 @@ TEST_F(FullDisk, WithPreviewSendsNoNativeFileThatDidNotFit)
     EXPECT_THAT(PushScene::leftBehind(), IsEmpty());
 }
 
-TEST_F(FullDisk, AReplacedFileKeepsItsOldContent)
+TEST_P(FullDisk, AReplacedFileKeepsItsOldContent)
 {
     auto const file = disk / "list";
     ASSERT_TRUE(orvhost::replaceFile(file, "old"));
@@ -172,9 +193,13 @@ TEST_F(FullDisk, AReplacedFileKeepsItsOldContent)
     EXPECT_FALSE(orvhost::replaceFile(file, std::string(100000, 'n')));
     EXPECT_EQ(contentOf(file), "old");
     std::filesystem::remove(file);
-    std::filesystem::remove(ballast());
+    makeRoom();
     EXPECT_THAT(PushScene::leftBehind(), IsEmpty());
 }
+
+INSTANTIATE_TEST_SUITE_P(Both, FullDisk, testing::Values(Disk::mounted, Disk::limited), [](auto const& kind) {
+    return std::string(kind.param == Disk::mounted ? "Mounted" : "Limited");
+});
 
 } // namespace
 

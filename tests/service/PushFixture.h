@@ -106,11 +106,15 @@ struct PushScene {
         user->name = L"Ada";
         SessionFile().write(user->username, user->userid, user->name);
         session = contentOf(environment.session());
+        keepUser();
         openModel(L"/models/gear.box.step");
     }
     ~PushScene()
     {
         EXPECT_EQ(orvplatform::waitCursorDepth(), 0) << "the busy cursor stayed";
+        EXPECT_EQ(user->username, signedIn.username) << "a push has no business in what is known of the user";
+        EXPECT_EQ(user->userid, signedIn.userid);
+        EXPECT_EQ(user->name, signedIn.name);
         EXPECT_EQ(contentOf(environment.session()), session) << "a push has no business in the session file";
         for (auto const& file : leftBehind()) {
             std::filesystem::remove(file);
@@ -124,6 +128,9 @@ struct PushScene {
         scene = std::make_unique<TestScene>(path);
         scene->application->application = application;
     }
+
+    /// To be called where a test changes the user: what it is from here on has to stay.
+    void keepUser() { signedIn = *user; }
 
     static std::filesystem::path temporary(std::string const& name)
     {
@@ -179,6 +186,7 @@ struct PushScene {
 
 private:
     std::string session; ///< what the session file held at the start
+    orvweb::UserInfo signedIn;
 };
 
 } // namespace orvtest

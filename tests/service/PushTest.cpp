@@ -220,7 +220,7 @@ TEST_F(Push, WithPreviewSendsTheNativeFileAndThenThePicture)
     EXPECT_EQ(std::filesystem::path(native.request.file), temporary("orvanta/gear.box.orvanta"));
     EXPECT_EQ(native.field("type"), "orvanta");
     EXPECT_EQ(native.field("filename"), "gear.box.step");
-    EXPECT_EQ(native.fileContent, "native with 7 settings");
+    EXPECT_EQ(native.fileContent, "native with 7 settings of /models/gear.box.step");
     auto const& picture = network.sent()[1];
     EXPECT_EQ(picture.field("type"), "png");
     EXPECT_EQ(picture.field("filename"), "gear.box.step") << "the model's name, not the picture's";

@@ -30,6 +30,7 @@ protected:
         environment.setLibraries(ORV_BINARY_DIR "/lib");
         user->username = L"ann@example.org";
         user->userid = orvtext::fromUtf8(signIn("ann").token);
+        keepUser();
     }
 
     std::wstring knownJobId(std::wstring const& file) const
@@ -124,6 +125,7 @@ TEST_F(PushToService, DirectWithoutARightToItFails)
     EXPECT_EQ(pushConverted(), L"failed");
     EXPECT_EQ(application->statuses().back(), uploadFailedText);
     user->userid.clear();
+    keepUser();
     EXPECT_EQ(pushConverted(), L"failed") << "nobody is signed in";
     EXPECT_THAT(stored(), IsEmpty());
 }
@@ -177,6 +179,7 @@ TEST_F(PushToService, InvitesTheAddressesAsTheyWereTyped)
     EXPECT_THAT(mails[0] + mails[1], HasSubstr("eve@example.org"));
     user->userid = orvtext::fromUtf8(signIn("bob").token);
     user->username = L"bob@example.org";
+    keepUser();
     EXPECT_EQ(knownJobId(L"gear.box.step"), job) << "the invited see the model";
 }
 

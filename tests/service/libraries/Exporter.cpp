@@ -1,6 +1,11 @@
-// An exporter plug-in as small as they get: writes how many settings it was given.
+// An exporter plug-in as small as they get: writes how many settings it was given and of which model, and moves the
+// bar.
+#include "host/orv/IDocument.h"
+#include "host/orv/IStatusManager.h"
 #include "host/orv/Preferences.h"
 #include "host/orvexp/IExporter.h"
+#include "host/orvsg/SCInfo.h"
+#include "platform/text/Text.h"
 
 #include <filesystem>
 #include <fstream>
@@ -37,11 +42,16 @@ public:
                          std::shared_ptr<orv::Preferences> /*preferences*/) override
     {
     }
-    orvexp::Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& /*document*/,
-                        std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* /*status*/) override
+    orvexp::Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& document,
+                        std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* status) override
     {
+        auto const info = orv::recordOf<orvsg::SCInfo>(document);
         std::ofstream(std::filesystem::path(path))
-            << "native with " << (preferences ? preferences->entries().size() : 0) << " settings";
+            << "native with " << (preferences ? preferences->entries().size() : 0) << " settings of "
+            << (info ? orvtext::toUtf8(info->file()) : "no model");
+        if (status != nullptr) {
+            status->setProgress(42, 1);
+        }
         return orvexp::Status::ok;
     }
     bool takes(wchar_t const* path) override
