@@ -2,16 +2,13 @@
 
 #include "host/orvsg/SCInfo.h"
 #include "service/CloudHelper.h"
-#include "service/PluginText.h"
 #include "shell/cloudplugin.h"
-#include "ui/ResourceIds.h"
+#include "ui/DocumentServices.h"
+#include "ui/PushModel.h"
 #include "ui/ResourceModule.h"
 #include "ui/account/CloudLoginDlg.h"
 #include "ui/account/SessionStore.h"
-#include "ui/account/SettingsDlg.h"
 #include "ui/feed/ShareDialog.h"
-
-#include <wininet.h>
 
 #include <utility>
 
@@ -21,11 +18,7 @@ void cloudplugin::OnCommand(HWND, unsigned int command, std::shared_ptr<orv::IAp
         return;
     }
     application = std::move(host);
-    DWORD flags = 0;
-    if (!InternetGetConnectedState(&flags, 0)) {
-        if (application) {
-            application->showStatus(pluginText(resource::text::noConnection).c_str(), 0);
-        }
+    if (!isConnected(application)) {
         return;
     }
     ResourceModule const module;
@@ -45,11 +38,7 @@ void cloudplugin::push()
         dialog.DoModal(); // pushes by itself
         return;
     }
-    if (settings->uploadDirect) {
-        helper->pushDirect(document, userInfo);
-    } else {
-        helper->pushWithPreview(document, application, userInfo);
-    }
+    pushModel(*settings, *helper, document, application, userInfo);
 }
 
 bool cloudplugin::isPushable() const

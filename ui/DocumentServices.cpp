@@ -31,12 +31,22 @@ std::wstring modelPath(std::shared_ptr<orv::IDocument> const& document)
 
 void showStatus(std::shared_ptr<orv::SCApplication> const& application, std::wstring const& text)
 {
-    if (application && application->application) {
-        application->application->showStatus(text.c_str(), 0);
+    showStatus(application ? application->application : nullptr, text);
+}
+
+void showStatus(std::shared_ptr<orv::IApplication> const& application, std::wstring const& text)
+{
+    if (application) {
+        application->showStatus(text.c_str(), 0);
     }
 }
 
 bool isConnected(std::shared_ptr<orv::SCApplication> const& application)
+{
+    return isConnected(application ? application->application : nullptr);
+}
+
+bool isConnected(std::shared_ptr<orv::IApplication> const& application)
 {
     DWORD flags = 0;
     if (InternetGetConnectedState(&flags, 0)) {

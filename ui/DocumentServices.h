@@ -7,8 +7,9 @@
 
 namespace orv
 {
+class IApplication;
 class SCApplication;
-}
+} // namespace orv
 
 /// What windows ask of the open document. An empty document is allowed everywhere.
 
@@ -23,6 +24,8 @@ std::wstring modelPath(std::shared_ptr<orv::IDocument> const& document);
 
 /// Shows a text to the user; nothing where there is no application.
 void showStatus(std::shared_ptr<orv::SCApplication> const& application, std::wstring const& text);
+void showStatus(std::shared_ptr<orv::IApplication> const& application, std::wstring const& text);
 
 /// Tests the connection before a request. Without one the user is told and the answer is false.
 bool isConnected(std::shared_ptr<orv::SCApplication> const& application);
+bool isConnected(std::shared_ptr<orv::IApplication> const& application);

@@ -1,5 +1,6 @@
 #include "shell/LoadedPlugin.h"
 #include "support/FileWatch.h"
+#include "support/OrdinaryUser.h"
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -17,11 +18,15 @@ class CommandsTest : public UiTest
 protected:
     void openModel() { sendHint(*plugin.operator->(), codes::documentOpened, scene.document); }
     void command(unsigned int number) { plugin->OnCommand(nullptr, number, application); }
+    /// The answer doesn't depend on what stood there before.
     bool isEnabled(unsigned int number)
     {
-        bool enabled = number != push && number != feeds; // the opposite of what most cases expect
-        plugin->OnUpdateCommand(nullptr, number, &enabled);
-        return enabled;
+        bool fromTrue = true;
+        bool fromFalse = false;
+        plugin->OnUpdateCommand(nullptr, number, &fromTrue);
+        plugin->OnUpdateCommand(nullptr, number, &fromFalse);
+        EXPECT_EQ(fromTrue, fromFalse) << number;
+        return fromTrue;
     }
     /// The next modal dialog has this title.
     void expectDialog(std::wstring const& title, INT_PTR result = IDCANCEL)
@@ -149,7 +154,9 @@ TEST_F(CommandsTest, AnUpdatePassOpensTheSessionFileOnceAndReadsNothing)
 {
     signIn();
     FileWatch watch(SessionFile().path());
-    EXPECT_TRUE(isEnabled(share));
+    bool enabled = false;
+    plugin->OnUpdateCommand(nullptr, share, &enabled);
+    EXPECT_TRUE(enabled);
     EXPECT_EQ(watch.events(), (std::vector<std::string>{"open", "close"}));
     isEnabled(push);
     isEnabled(feeds);
@@ -159,6 +166,27 @@ TEST_F(CommandsTest, AnUpdatePassOpensTheSessionFileOnceAndReadsNothing)
 TEST_F(CommandsTest, ADirectoryInTheSessionFilesPlaceIsNoSession)
 {
     std::filesystem::create_directories(SessionFile().path());
+    openModel();
+    EXPECT_FALSE(isEnabled(share));
+    expectDialog(L"Login to Orvanta Cloud");
+    command(push);
+}
+
+TEST_F(CommandsTest, ASessionFileThatMayNotBeReadIsNoSession)
+{
+    signIn();
+    openModel();
+    std::filesystem::permissions(SessionFile().path(), std::filesystem::perms::none);
+    OrdinaryUser const person(dataDirectory);
+    EXPECT_FALSE(isEnabled(share));
+    EXPECT_TRUE(isEnabled(push));
+    expectDialog(L"Login to Orvanta Cloud");
+    command(push);
+}
+
+TEST_F(CommandsTest, AFileInThePlaceOfTheDirectoryLeavesShareDisabled)
+{
+    std::ofstream(dataDirectory / "Cloud") << "in the way";
     openModel();
     EXPECT_FALSE(isEnabled(share));
     expectDialog(L"Login to Orvanta Cloud");

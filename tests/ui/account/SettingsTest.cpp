@@ -1,3 +1,4 @@
+#include "support/OrdinaryUser.h"
 #include "ui/UiTest.h"
 #include "ui/account/CloudLoginDlg.h"
 #include "ui/account/SettingsDlg.h"
@@ -124,6 +125,18 @@ TEST_F(SettingsTest, AnEmptySessionFileCountsAsSignedIn)
 TEST_F(SettingsTest, ADirectoryInTheSessionFilesPlaceIsNoSession)
 {
     std::filesystem::create_directories(SessionFile().path());
+    run([this](SettingsDlg& page) {
+        EXPECT_EQ(textOf(page, state), text(121));
+        EXPECT_EQ(textOf(page, button), L"Login");
+    });
+}
+
+TEST_F(SettingsTest, ASessionFileThatMayNotBeReadIsNoSession)
+{
+    signIn();
+    run([](SettingsDlg&) {}); // texts and fonts have been read by then
+    std::filesystem::permissions(SessionFile().path(), std::filesystem::perms::none);
+    OrdinaryUser const person(dataDirectory);
     run([this](SettingsDlg& page) {
         EXPECT_EQ(textOf(page, state), text(121));
         EXPECT_EQ(textOf(page, button), L"Login");
