@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
 #include <utility>
 #include <vector>
 
@@ -20,11 +21,27 @@ double lowerQuartile(std::vector<double> values)
     return *middle;
 }
 
-bool timed(Pair::Work const& work, std::vector<double>& times)
+/// What this thread has had of the processor, seconds.
+double processorTime()
 {
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+/// Of each round, seconds.
+struct Times {
+    std::vector<double> clock;
+    std::vector<double> processor;
+};
+
+bool timed(Pair::Work const& work, Times& times)
+{
+    double const before = processorTime();
     auto const start = std::chrono::steady_clock::now();
     bool const succeeded = work();
-    times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    times.clock.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    times.processor.push_back(processorTime() - before);
     return succeeded;
 }
 
@@ -37,8 +54,8 @@ Pair::Pair(std::string title, Work plainWork, Work ownWork)
 
 void Pair::run(benchmark::State& state)
 {
-    std::vector<double> plainTimes;
-    std::vector<double> ownTimes;
+    Times plainTimes;
+    Times ownTimes;
     bool plainFirst = false;
     done = plain() && own(); // what is made once is made before the clock runs
     for (auto _ : state) {
@@ -50,12 +67,14 @@ void Pair::run(benchmark::State& state)
             state.SkipWithError("a run failed");
             return;
         }
-        state.SetIterationTime(ownTimes.back());
+        state.SetIterationTime(ownTimes.clock.back());
     }
-    plainTime = lowerQuartile(plainTimes);
-    ownTime = lowerQuartile(ownTimes);
+    plainTime = lowerQuartile(plainTimes.clock);
+    ownTime = lowerQuartile(ownTimes.clock);
+    ownProcessor = lowerQuartile(ownTimes.processor);
     state.counters["plain_us"] = plainTime * 1e6;
     state.counters["own_us"] = ownTime * 1e6;
+    state.counters["own_cpu_us"] = ownProcessor * 1e6;
     state.counters["ratio"] = ratio();
 }
 

@@ -20,6 +20,11 @@ std::vector<V> arrayOf(orvsg::Container<int, V> const& container)
     return {container.begin(), container.end()};
 }
 
+std::vector<int> arrayOf(orvsg::NodeList const& list)
+{
+    return {list.begin(), list.end()};
+}
+
 std::size_t at(int index)
 {
     return static_cast<std::size_t>(index);
@@ -32,13 +37,15 @@ void place(Matrix const& parent, orvsg::Transform const& placement, Matrix& worl
         return;
     }
     for (unsigned column = 0; column < 4; ++column) {
-        for (unsigned row = 0; row < 4; ++row) {
-            double sum = 0.0;
-            for (unsigned k = 0; k < 4; ++k) {
-                sum += parent[static_cast<unsigned char>(k * 4 + row)] *
-                       static_cast<double>(placement.matrix[static_cast<unsigned char>(column * 4 + k)]);
+        double sums[4] = {};
+        for (unsigned k = 0; k < 4; ++k) {
+            auto const factor = static_cast<double>(placement.matrix[static_cast<unsigned char>(column * 4 + k)]);
+            for (unsigned row = 0; row < 4; ++row) {
+                sums[row] += parent[static_cast<unsigned char>(k * 4 + row)] * factor;
             }
-            world[static_cast<unsigned char>(column * 4 + row)] = sum;
+        }
+        for (unsigned row = 0; row < 4; ++row) {
+            world[static_cast<unsigned char>(column * 4 + row)] = sums[row];
         }
     }
 }
@@ -148,27 +155,44 @@ void PlainView::flagPlacements(std::set<int> const& nodes)
 
 void PlainView::fitCamera(FeedViewport const& viewport)
 {
+    struct Above {
+        int node;
+        Matrix world;
+    };
     Matrix identity;
     identity[0] = identity[5] = identity[10] = identity[15] = 1.0;
-    std::vector<Matrix> world(parents.size());
+    std::vector<Above> ancestors; // from the root down
     double const infinity = std::numeric_limits<double>::infinity();
     double low[3] = {infinity, infinity, infinity};
     double high[3] = {-infinity, -infinity, -infinity};
     for (std::size_t node = 0; node < parents.size(); ++node) {
-        Matrix& m = world[node];
-        place(parents[node] < 0 ? identity : world[at(parents[node])], current[at(transformOfNode[node])], m);
+        while (!ancestors.empty() && ancestors.back().node != parents[node]) {
+            ancestors.pop_back();
+        }
+        Matrix m;
+        place(ancestors.empty() ? identity : ancestors.back().world, current[at(transformOfNode[node])], m);
+        ancestors.push_back({static_cast<int>(node), m});
         orvsg::BBox const& box = boxes[node];
-        for (unsigned corner = 0; corner < 8 && !box.isEmpty; ++corner) {
-            double const x = (corner & 1U) != 0 ? box.maximum[0] : box.minimum[0];
-            double const y = (corner & 2U) != 0 ? box.maximum[1] : box.minimum[1];
-            double const z = (corner & 4U) != 0 ? box.maximum[2] : box.minimum[2];
-            for (unsigned char axis = 0; axis < 3; ++axis) {
-                double const value = m[axis] * x + m[static_cast<unsigned char>(axis + 4)] * y +
-                                     m[static_cast<unsigned char>(axis + 8)] * z +
-                                     m[static_cast<unsigned char>(axis + 12)];
-                low[axis] = std::min(low[axis], value);
-                high[axis] = std::max(high[axis], value);
-            }
+        if (box.isEmpty) {
+            continue;
+        }
+        double middle[3];
+        double half[3];
+        for (unsigned char axis = 0; axis < 3; ++axis) {
+            double const from = box.minimum[axis];
+            double const to = box.maximum[axis];
+            middle[axis] = (from + to) / 2.0;
+            half[axis] = (to - from) / 2.0;
+        }
+        for (unsigned char axis = 0; axis < 3; ++axis) {
+            double const x = m[axis];
+            double const y = m[static_cast<unsigned char>(axis + 4)];
+            double const z = m[static_cast<unsigned char>(axis + 8)];
+            double const value =
+                x * middle[0] + y * middle[1] + z * middle[2] + m[static_cast<unsigned char>(axis + 12)];
+            double const reach = std::abs(x) * half[0] + std::abs(y) * half[1] + std::abs(z) * half[2];
+            low[axis] = std::min(low[axis], value - reach);
+            high[axis] = std::max(high[axis], value + reach);
         }
     }
     Vector3 centre;

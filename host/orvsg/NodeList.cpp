@@ -12,7 +12,7 @@ constexpr int noNode = -1;
 
 } // namespace
 
-NodeList::NodeList(Container<int, int> content) : Container<int, int>(std::move(content))
+NodeList::NodeList(List content) : nodes(std::move(content))
 {
     noteAll();
 }
@@ -45,7 +45,7 @@ void NodeList::setValue(int key, int const& node)
     bool const hasTwins = places.size() + freePlaces.size() != size();
     int const before = getValue(key);
     int const after = node; // `node` may stand in the list itself
-    Container<int, int>::setValue(key, after);
+    nodes.setValue(key, after);
     if (hasTwins) {
         noteAll();
         return;
@@ -57,13 +57,13 @@ void NodeList::setValue(int key, int const& node)
 
 void NodeList::append(int node)
 {
-    Container<int, int>::append(node);
+    nodes.append(node);
     note(static_cast<int>(size()) - 1, node);
 }
 
 void NodeList::clear()
 {
-    Container<int, int>::clear();
+    nodes.clear();
     places.clear();
     freePlaces.clear();
 }

@@ -5,6 +5,7 @@
 #include "host/orvsgutils/TreeWalk.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace orvsgutils
 {
@@ -18,15 +19,18 @@ Matrix identityMatrix()
 
 Matrix product(Matrix const& left, Matrix const& right)
 {
+    // Column by column, so that the four rows are worked out together; each element's sum goes in the order of k.
     Matrix result;
     for (unsigned column = 0; column < 4; ++column) {
-        for (unsigned row = 0; row < 4; ++row) {
-            double sum = 0.0;
-            for (unsigned k = 0; k < 4; ++k) {
-                sum +=
-                    left[static_cast<unsigned char>(k * 4 + row)] * right[static_cast<unsigned char>(column * 4 + k)];
+        double sums[4] = {};
+        for (unsigned k = 0; k < 4; ++k) {
+            double const factor = right[static_cast<unsigned char>(column * 4 + k)];
+            for (unsigned row = 0; row < 4; ++row) {
+                sums[row] += left[static_cast<unsigned char>(k * 4 + row)] * factor;
             }
-            result[static_cast<unsigned char>(column * 4 + row)] = sum;
+        }
+        for (unsigned row = 0; row < 4; ++row) {
+            result[static_cast<unsigned char>(column * 4 + row)] = sums[row];
         }
     }
     return result;
@@ -48,20 +52,24 @@ DepthFirstWalk::DepthFirstWalk(orvsg::SCSceneRes const& res, orvsg::SCSceneTopo 
 
 Occurrence const& DepthFirstWalk::enter(int node)
 {
+    if (!byNode.empty() && topology.nodes.contains(node)) {
+        return kept(node);
+    }
     int const parent = parentOf(topology, node);
     while (!ancestors.empty() && ancestors.back().node != parent) {
         ancestors.pop_back();
     }
-    if (!ancestors.empty()) {
-        ancestors.push_back(below(ancestors.back(), node));
-    } else {
-        ancestors.push_back(parent < 0 ? below(Occurrence(), node) : fromTheRoot(node));
+    if (ancestors.empty() && parent >= 0) {
+        byNode.resize(topology.nodes.size());
+        return kept(node);
     }
+    ancestors.push_back(below(ancestors.empty() ? Occurrence() : ancestors.back(), node));
     return ancestors.back();
 }
 
-Occurrence DepthFirstWalk::below(Occurrence const& parent, int node) const
+Occurrence DepthFirstWalk::below(Occurrence const& parent, int node)
 {
+    ++steps;
     auto const bit = static_cast<std::size_t>(node);
     orvsg::Transform const& placement = resources.transforms.getValue(topology.transformOfNode.getValue(node));
     Occurrence result = parent;
@@ -75,17 +83,19 @@ Occurrence DepthFirstWalk::below(Occurrence const& parent, int node) const
     return result;
 }
 
-Occurrence DepthFirstWalk::fromTheRoot(int node) const
+Occurrence const& DepthFirstWalk::kept(int node)
 {
-    std::vector<int> chain;
-    for (int at = node; at >= 0; at = parentOf(topology, at)) {
-        chain.push_back(at);
+    std::vector<int> missing; // up to the nearest ancestor that is known
+    int at = node;
+    for (; at >= 0 && byNode[static_cast<std::size_t>(at)].node < 0; at = parentOf(topology, at)) {
+        missing.push_back(at);
     }
-    Occurrence result;
-    for (auto at = chain.rbegin(); at != chain.rend(); ++at) {
-        result = below(result, *at);
+    for (; !missing.empty(); missing.pop_back()) {
+        Occurrence result = below(at >= 0 ? byNode[static_cast<std::size_t>(at)] : Occurrence(), missing.back());
+        at = missing.back();
+        byNode[static_cast<std::size_t>(at)] = result;
     }
-    return result;
+    return byNode[static_cast<std::size_t>(node)];
 }
 
 } // namespace orvsgutils

@@ -1,6 +1,7 @@
 #include "host/orvglutils/MarkupUtils.h"
 #include "host/orvsgutils/BBoxUtils.h"
 #include "host/orvsgutils/BOMUtils.h"
+#include "host/orvsgutils/DepthFirstWalk.h"
 #include "host/orvsgutils/MaterialUtils.h"
 #include "host/orvsgutils/SceneQuery.h"
 #include "host/orvsgutils/VisibilityChanger.h"
@@ -196,8 +197,8 @@ TEST_F(Scene, NodesOutsideTheModelAreIgnored)
         fade(node, 0.5F);
         MaterialUtils::clearNodeTransparency(node, scene.resources, scene.runtime, scene.topology);
         hide(node);
-        colorOf(node);
-        query().worldMatrix(node);
+        EXPECT_EQ(colorOf(node), colorOf(0)) << "the default";
+        EXPECT_EQ(query().worldMatrix(node), orvsgutils::identityMatrix());
         EXPECT_FALSE(query().isShown(node));
         EXPECT_FALSE(query().isColoredByUser(node));
         EXPECT_FLOAT_EQ(query().transparency(node), 0.0F);

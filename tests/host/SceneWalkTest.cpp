@@ -7,9 +7,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <set>
+#include <type_traits>
 #include <vector>
 
 using orvsg::NodeList;
@@ -92,6 +96,20 @@ TEST(NodeList, StaysInStepWithPlainChanges)
     EXPECT_FALSE(list.holds(2));
     list.enter(3);
     EXPECT_THAT(nodesOf(list), ElementsAre(3));
+}
+
+TEST(NodeList, IsReadAsTheContainerThatItStandsForAndChangesAlone)
+{
+    static_assert(!std::is_base_of_v<orvsg::Container<int, int>, NodeList>, "no change behind its back");
+    NodeList list;
+    list.enter(4);
+    list.enter(6);
+    orvsg::Container<int, int> const& container = list;
+    EXPECT_EQ(container.size(), 2U);
+    EXPECT_EQ(container.getValue(1), 6);
+    EXPECT_EQ(container.getValue(2), -1);
+    list.leave(4);
+    EXPECT_EQ(container.getValue(0), -1) << "the list itself, no copy";
 }
 
 /// What a plain list with a search would do.
@@ -185,21 +203,77 @@ TEST(SceneWalk, TakesTreesThatAreNumberedOtherwise)
     }
 }
 
-TEST(SceneWalk, OfALongChainEnds)
+constexpr int manyNodes = 100000;
+
+/// A scene of many nodes, each `step` nodes behind its parent.
+TreeScene chains(int step)
 {
-    TreeScene scene(100000, 1);
-    for (int node = 1; node < scene.nodeCount(); ++node) {
+    TreeScene scene(manyNodes, 1);
+    for (int node = 0; node < manyNodes; ++node) {
         orvsg::Node changed = scene.topology->nodes.getValue(node);
-        changed.parent = node - 1;
+        changed.parent = std::max(node - step, -1);
         scene.topology->nodes.setValue(node, changed);
     }
-    DepthFirstWalk walk(*scene.resources, *scene.topology, nullptr);
-    EXPECT_EQ(walk.enter(99999).node, 99999) << "straight to the last one";
-    int entered = 0;
-    for (; entered < scene.nodeCount(); ++entered) {
-        walk.enter(entered);
+    return scene;
+}
+
+/// Enters all nodes and gives how many occurrences that took.
+std::size_t stepsOf(TreeScene const& scene)
+{
+    DepthFirstWalk walk(*scene.resources, *scene.topology, scene.runtime.get());
+    for (int node = 0; node < scene.nodeCount(); ++node) {
+        EXPECT_EQ(walk.enter(node).node, node);
     }
-    EXPECT_EQ(entered, 100000);
+    return walk.workedOut();
+}
+
+TEST(SceneWalk, OfALongChainTakesOneStepANode)
+{
+    EXPECT_EQ(stepsOf(chains(1)), static_cast<std::size_t>(manyNodes));
+}
+
+TEST(SceneWalk, OfInterleavedChainsTakesTwoStepsANodeAtMost)
+{
+    for (int const step : {2, 3, 1000}) {
+        EXPECT_LE(stepsOf(chains(step)), std::size_t{2} * manyNodes) << step << " chains";
+    }
+}
+
+TEST(SceneWalk, OfAnyOtherTreeTakesTwoStepsANodeAtMost)
+{
+    TreeScene scene(manyNodes, 2);
+    for (int node = 1; node < manyNodes; ++node) {
+        orvsg::Node changed = scene.topology->nodes.getValue(node);
+        changed.parent = node - 1 - static_cast<int>(scene.below(std::min(static_cast<std::uint32_t>(node), 20U)));
+        scene.topology->nodes.setValue(node, changed);
+    }
+    EXPECT_LE(stepsOf(scene), std::size_t{2} * manyNodes);
+}
+
+TEST(SceneWalk, StraightToTheLastNodeOfAChainKeepsTheOthers)
+{
+    TreeScene scene = chains(1);
+    scene.runtime->visibility[manyNodes / 2] = false;
+    DepthFirstWalk walk(*scene.resources, *scene.topology, scene.runtime.get());
+    EXPECT_FALSE(walk.enter(manyNodes - 1).isShown);
+    EXPECT_TRUE(walk.enter(0).isShown);
+    EXPECT_TRUE(walk.enter(manyNodes / 2 - 1).isShown);
+    EXPECT_EQ(walk.workedOut(), static_cast<std::size_t>(manyNodes));
+}
+
+TEST(SceneWalk, TakesNodesOutsideTheModelForRoots)
+{
+    TreeScene scene = chains(2);
+    DepthFirstWalk walk(*scene.resources, *scene.topology, scene.runtime.get());
+    for (int const before : {0, 5}) { // 5 stands below nodes that were not entered
+        walk.enter(before);
+        for (int const node : {-1, manyNodes, INT_MAX, INT_MIN}) {
+            Occurrence const& at = walk.enter(node);
+            EXPECT_EQ(at.node, node);
+            EXPECT_TRUE(at.isShown);
+            EXPECT_EQ(at.world, orvsgutils::identityMatrix());
+        }
+    }
 }
 
 TEST(SceneBox, IsTheBoxOfAllTurnedCorners)
