@@ -7,6 +7,7 @@
 #include "platform/text/Text.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace bomwriter
 {
@@ -39,6 +40,16 @@ private:
     std::vector<int> places;
     std::vector<std::int64_t> totals;
 };
+
+/// A name comes from somebody else's file. Spreadsheets would run one that begins like a formula; an apostrophe in
+/// front makes text of it.
+std::string asText(std::string const& name)
+{
+    constexpr std::string_view formulaSigns = "=+-@\t\r\n";
+    auto const first = name.find_first_not_of(' ');
+    bool const isFormula = first != std::string::npos && formulaSigns.find(name[first]) != std::string_view::npos;
+    return isFormula ? "'" + name : name;
+}
 
 std::string field(std::string const& text)
 {
@@ -77,13 +88,14 @@ BomTable bomTable(std::shared_ptr<orv::IDocument> const& document)
 
 std::string csvOf(BomTable const& table)
 {
-    std::string text = table.byPart ? "Item,Part,Quantity\r\n" : "Item,Level,Part,Quantity,Total\r\n";
+    std::string text = "\xEF\xBB\xBF"; // else spreadsheets take it for the system's old 8-bit text
+    text += table.byPart ? "Item,Part,Quantity\r\n" : "Item,Level,Part,Quantity,Total\r\n";
     for (auto const& row : table.rows) {
         text += row.item + ',';
         if (!table.byPart) {
             text += std::to_string(row.level + 1) + ',';
         }
-        text += field(row.name) + ',' + std::to_string(row.quantity);
+        text += field(asText(row.name)) + ',' + std::to_string(row.quantity);
         if (!table.byPart) {
             text += ',' + std::to_string(row.total);
         }

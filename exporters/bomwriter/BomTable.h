@@ -29,7 +29,8 @@ struct BomTable {
 /// record. The record itself stays as it is.
 BomTable bomTable(std::shared_ptr<orv::IDocument> const& document);
 
-/// The table as comma-separated values (RFC 4180) in UTF-8: a line of titles, then a line a row.
+/// The table as comma-separated values (RFC 4180) in UTF-8 with its mark: a line of titles, then a line a row. A name
+/// that a spreadsheet would take for a formula has an apostrophe in front.
 std::string csvOf(BomTable const& table);
 
 } // namespace bomwriter

@@ -21,8 +21,10 @@ namespace
 using Lines = std::vector<std::vector<std::string>>;
 
 /// RFC 4180, strictly: lines end in CR LF, quotes are doubled within quotes.
-Lines parseCsv(std::string const& text)
+Lines parseCsv(std::string const& bytes)
 {
+    EXPECT_TRUE(bytes.starts_with("\xEF\xBB\xBF")) << "a spreadsheet has to know that it is UTF-8";
+    std::string const text = bytes.substr(3);
     Lines lines;
     std::vector<std::string> line;
     std::string field;
@@ -98,6 +100,25 @@ TEST_F(BomFile, CsvByLevelFollowsTheTree)
                                                          {"2", "1", "shaft assembly", "1", "1"},
                                                          {"2.1", "2", "shaft", "1", "1"},
                                                          {"2.2", "2", "gear", "2", "2"}}));
+}
+
+TEST_F(BomFile, NamesThatLookLikeFormulasAreText)
+{
+    scene.bom->reportLevel = 0;
+    struct Name {
+        wchar_t const* model;
+        char const* cell;
+    };
+    for (Name const& name :
+         {Name{L"=HYPERLINK(\"http://example.com\",\"x\")", "'=HYPERLINK(\"http://example.com\",\"x\")"},
+          Name{L"+1", "'+1"}, Name{L"-1+1", "'-1+1"}, Name{L"@SUM(A1)", "'@SUM(A1)"}, Name{L"\t=1", "'\t=1"},
+          Name{L"\r=1", "'\r=1"}, Name{L"  =1", "'  =1"}, Name{L"a=b", "a=b"}, Name{L"M8-20", "M8-20"},
+          Name{L"   ", "   "}}) {
+        rename(1, name.model);
+        auto const lines = parseCsv(contentOf(save("a.csv")));
+        ASSERT_GE(lines.size(), 2U);
+        EXPECT_EQ(lines[1][1], name.cell);
+    }
 }
 
 TEST_F(BomFile, TotalsMultiplyDownTheTree)
