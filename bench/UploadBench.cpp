@@ -68,8 +68,8 @@ orv::OmniInfo request(std::filesystem::path const& file, std::wstring const& use
     add(L"key", orvweb::APIUtils::apiKey());
     add(L"username", username);
     add(L"userid", token);
-    add(L"filename", L"huge.step");
     add(L"type", L"prc");
+    add(L"filename", L"huge.step");
     return record;
 }
 
