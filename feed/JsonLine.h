@@ -6,8 +6,8 @@
 
 /// Writes one JSON text as the JSON library's first writer would write the same value: no blanks, plain ASCII, one line
 /// feed at the very end. The texts of strings and of floating-point numbers come from the library itself; what this
-/// saves is the tree of values in between. The caller gives members in ascending byte order of their names, with plain
-/// ASCII names that need no escape.
+/// saves is the tree of values in between, with which a record took 1.3 to 1.5 times as long (bench_records). The
+/// caller gives members in ascending byte order of their names, with plain ASCII names that need no escape.
 class JsonLine
 {
 public:

@@ -90,7 +90,8 @@ Feed captureView(std::shared_ptr<orv::IDocument> const& document, orvweb::UserIn
     std::wstring const commentId = identity.substr(1, identity.size() - 2);
     std::wstring const commentType = pluginText(commentTypeText);
     std::wstring const source = pluginText(sourceText);
-    std::wstring const thumbnail = pluginText(thumbnailPrefixText) + encodeFileBase64(imagePath);
+    std::wstring thumbnail = pluginText(thumbnailPrefixText);
+    thumbnail += encodeFileBase64(imagePath);
 
     FeedViewport const viewport = captureViewport(records);
     FeedObjects objects = captureObjects(records);

@@ -1,32 +1,22 @@
-#include "feed/ViewCapture.h"
-
+#include "feed/CaptureFixture.h"
 #include "feed/FeedReader.h"
 #include "feed/FeedWriter.h"
-#include "feed/ForeignTimes.h"
 #include "feed/Thumbnail.h"
 #include "feed/ViewReplay.h"
 #include "host/orv/GUID.h"
 #include "host/orvsgutils/MaterialUtils.h"
-#include "host/runtime/IFrameRenderer.h"
 #include "platform/text/Text.h"
-#include "support/PluginEnvironment.h"
-#include "support/TestScene.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
 #include <ctime>
-#include <cwchar>
-#include <filesystem>
 #include <limits>
-#include <locale>
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -41,33 +31,7 @@ using testing::IsEmpty;
 namespace
 {
 
-/// Keeps what the picture was asked for.
-class FakeRenderer final : public orvhost::IFrameRenderer
-{
-public:
-    bool drawFrame(std::shared_ptr<orv::IDocument> const& document, unsigned int width, unsigned int height,
-                   bool transparent, unsigned char* pixels) override
-    {
-        auto const record = orv::recordOf<orvgl::SCRenderer>(document);
-        settings = record ? std::optional(record->settings) : std::nullopt;
-        size = {width, height};
-        wasTransparent = transparent;
-        if (throws) {
-            throw std::runtime_error("no picture");
-        }
-        std::size_t const half = std::size_t{3} * width * height / 2;
-        std::fill_n(pixels, half, shade);
-        std::fill_n(pixels + half, half, lowerShade.value_or(shade));
-        return true;
-    }
-
-    std::optional<orvgl::RendererSettings> settings;
-    std::pair<unsigned int, unsigned int> size;
-    bool wasTransparent = true;
-    bool throws = false;
-    unsigned char shade = 128;
-    std::optional<unsigned char> lowerShade; ///< of the lower half, where it differs
-};
+using ViewCapture = orvtest::CaptureTest;
 
 /// The brightness of a JPEG file's pixels, row by row from the top.
 struct GreyPicture {
@@ -108,30 +72,6 @@ public:
 
 private:
     std::optional<std::string> before;
-};
-
-class ViewCapture : public testing::Test
-{
-protected:
-    ViewCapture() : before(orvhost::setFrameRenderer(renderer))
-    {
-        user.userid = L"token";
-        user.username = L"ada@example.com";
-        user.name = L"Ada";
-    }
-    ~ViewCapture() override { orvhost::setFrameRenderer(before); }
-
-    Feed capture(std::wstring const& text = L"look at this")
-    {
-        return captureView(scene.document, user, text, L"file-id", thumbnailPath());
-    }
-    std::filesystem::path picture() const { return environment.cloud("image.jpeg"); }
-
-    orvtest::PluginEnvironment environment;
-    orvtest::TestScene scene;
-    orvweb::UserInfo user;
-    std::shared_ptr<FakeRenderer> renderer = std::make_shared<FakeRenderer>();
-    std::shared_ptr<orvhost::IFrameRenderer> before;
 };
 
 TEST_F(ViewCapture, FillsTheRecord)
@@ -385,86 +325,33 @@ TEST_F(ViewCapture, LeavesTheSceneAlone)
 
 TEST_F(ViewCapture, DoesWhatItCanWithoutRecords)
 {
-    for (short const key : {orvsg::SCSceneRT::key, orvgl::SCRenderer::key, orvsg::SCInfo::key, orvsg::SCSceneTopo::key,
-                            orvsg::SCSceneRes::key, orv::SCApplication::key}) {
+    scene.renderer->camera->eye = Vector3(1, 2, 3);
+    scene.runtime->visibility[3] = false;
+    scene.moveTo(4, 1, 2, 30);
+    MaterialUtils::setNodeColor(1, 0x0000FF, scene.resources, scene.runtime, scene.topology);
+    MaterialUtils::setNodeTransparency(5, 0.5F, scene.resources, scene.runtime, scene.topology);
+    Feed const whole = capture();
+    auto const without = [this](short key) {
+        auto const record = scene.document->getSchema(key);
         scene.document->setSchema(key, nullptr);
-        EXPECT_EQ(capture().comment.content, L"look at this") << "without record " << key;
-    }
-    EXPECT_EQ(capture().file.name, L"");
-    EXPECT_EQ(captureView(nullptr, user, L"x", L"f", thumbnailPath()).comment.content, L"x");
-}
-
-TEST(CommentTime, HasTheMonthInTheMinutesPlace)
-{
-    std::tm moment{};
-    moment.tm_year = 2026 - 1900;
-    moment.tm_mon = 10;
-    moment.tm_mday = 15;
-    moment.tm_hour = 16;
-    moment.tm_min = 41;
-    EXPECT_EQ(commentTimeText(moment), L"Nov 15, 2026 16:11 PM");
-    moment.tm_hour = 4;
-    moment.tm_mon = 2;
-    moment.tm_mday = 5;
-    EXPECT_EQ(commentTimeText(moment), L"Mar 05, 2026 04:03 AM");
-}
-
-/// Writes nothing, where streams are left to the locale of the process.
-class SilentTimes : public std::time_put<wchar_t>
-{
-protected:
-    iter_type do_put(iter_type place, std::ios_base&, wchar_t, std::tm const*, char, char) const override
-    {
-        return place;
-    }
-};
-
-TEST(CommentTime, IsEnglishWhateverTheLocale)
-{
-    std::tm moment{};
-    moment.tm_year = 2026 - 1900;
-    moment.tm_mon = 10;
-    moment.tm_mday = 15;
-    moment.tm_hour = 16;
-    orvtest::ForeignTimes const foreign;
-    if (!foreign.isSet) {
-        GTEST_SKIP() << "skipped: this system has no compiled locale to change";
-    }
-    wchar_t text[32];
-    ASSERT_NE(std::wcsftime(text, 32, L"%b %p", &moment), 0U);
-    ASSERT_STREQ(text, L"Xyz QM") << "the locale is in force";
-    std::locale const before = std::locale::global(std::locale(std::locale::classic(), new SilentTimes));
-    std::wstring const written = commentTimeText(moment);
-    std::locale::global(before);
-    EXPECT_EQ(written, L"Nov 15, 2026 16:11 PM");
-}
-
-TEST(CommentTime, IsEmptyWhereItDoesNotFit)
-{
-    std::tm moment{};
-    moment.tm_mday = 1;
-    EXPECT_EQ(commentTimeText(moment).size(), 21U);
-    EXPECT_EQ(commentTimeText(moment, 22).size(), 21U);
-    EXPECT_EQ(commentTimeText(moment, 21), L"") << "the closing zero needs room as well";
-}
-
-TEST(EncodedFile, IsOneLineOfBase64)
-{
-    orvtest::PluginEnvironment const environment;
-    orvtest::writeFile(environment.data / "picture", std::string(300, '\xFF'));
-    std::wstring const text = encodeFileBase64((environment.data / "picture").wstring());
-    EXPECT_EQ(text, std::wstring(400, L'/'));
-    orvtest::writeFile(environment.data / "picture", "f");
-    EXPECT_EQ(encodeFileBase64((environment.data / "picture").wstring()), L"Zg==");
-}
-
-TEST(EncodedFile, IsEmptyWhereThereIsNone)
-{
-    orvtest::PluginEnvironment const environment;
-    EXPECT_EQ(encodeFileBase64((environment.data / "nothing").wstring()), L"");
-    EXPECT_EQ(encodeFileBase64(environment.data.wstring()), L"") << "a directory";
-    orvtest::writeFile(environment.data / "empty", "");
-    EXPECT_EQ(encodeFileBase64((environment.data / "empty").wstring()), L"");
+        Feed feed = capture();
+        scene.document->setSchema(key, record);
+        return feed;
+    };
+    FeedObjects const& all = whole.comment.objects;
+    FeedObjects const movedAlone({}, {}, {}, all.nodetransform, {});
+    FeedObjects const shownAlone({}, all.transparent, all.hidden, {}, {});
+    EXPECT_EQ(without(orvsg::SCSceneRT::key).comment.objects, movedAlone);
+    EXPECT_EQ(without(orvsg::SCSceneTopo::key).comment.objects, shownAlone);
+    EXPECT_EQ(without(orvsg::SCSceneRes::key).comment.objects, shownAlone);
+    EXPECT_EQ(without(orvgl::SCRenderer::key).comment.viewport, FeedViewport(Vector3(), Vector3(), Vector3(), 1.0));
+    EXPECT_EQ(without(orvgl::SCRenderer::key).comment.objects, all);
+    EXPECT_EQ(without(orvsg::SCInfo::key).file, FeedFile(L"file-id", L""));
+    EXPECT_EQ(without(orvsg::SCInfo::key).comment.objects, all);
+    EXPECT_EQ(without(orv::SCApplication::key).comment.objects, all);
+    scene.document = nullptr;
+    EXPECT_EQ(capture().comment.objects, FeedObjects());
+    EXPECT_EQ(capture().comment.content, L"look at this");
 }
 
 } // namespace
