@@ -174,14 +174,23 @@ int heightOf(const CMFCTasksPaneTask& task)
     return height;
 }
 
+// Room for a card's title in its font, which grows with the display's resolution.
+int titleHeight()
+{
+    QFont font = dialogFont();
+    font.setBold(true);
+    return std::max(measures::cardTitle, QFontMetrics(font).height() + 2 * measures::grid);
+}
+
 int TasksWidget::layoutWithin(int width)
 {
+    const int title = titleHeight();
     const int left = measures::gap;
     const int inner = std::max(width - 2 * measures::gap, 0);
     int y = measures::gap;
     for (const auto& group : *column->groups) {
         const int top = y;
-        y += group->m_strName.IsEmpty() ? measures::gap : measures::cardTitle;
+        y += group->m_strName.IsEmpty() ? measures::gap : title;
         const int body = y;
         for (const CMFCTasksPaneTask& task : group->m_lstTasks) {
             if (group->m_bIsCollapsed) {
