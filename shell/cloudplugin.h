@@ -62,7 +62,7 @@ private:
     bool activateSettingsPage = false;         ///< stays false: the page never forces itself to the front
     std::shared_ptr<orvweb::UserInfo> userInfo;
     std::shared_ptr<orvexp::IDelayExporter> exporter;
-    FeedPane* feedPane = nullptr; ///< belongs to its window once it has one
+    FeedPane* feedPane = nullptr; ///< its window ends it
     COOutlookTabCtrl* outlookTab = nullptr;
-    bool paneHasWindow = false;
+    bool paneWasAdded = false; ///< to a side bar
 };

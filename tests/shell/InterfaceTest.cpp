@@ -17,6 +17,16 @@ namespace
 constexpr unsigned int pushId = 40118;
 constexpr unsigned int shareId = 40102;
 
+/// The ribbon's active category, which nothing public sets to none.
+struct Reach {
+    friend CMFCRibbonCategory* CMFCRibbonBar::*activeOf(Reach);
+};
+template <CMFCRibbonCategory* CMFCRibbonBar::*member>
+struct Reached {
+    friend CMFCRibbonCategory* CMFCRibbonBar::*activeOf(Reach) { return member; }
+};
+template struct Reached<&CMFCRibbonBar::activeCategory>;
+
 class InterfaceTest : public UiTest
 {
 protected:
@@ -451,6 +461,46 @@ TEST_F(InterfaceTest, ThePaneStandsInOneSideBarAlone)
     EXPECT_EQ(sideBar.tabs().GetTabsNum(), 1);
     EXPECT_EQ(sideBar.tabs().large.size(), 1U);
     EXPECT_EQ(resources->windows.size(), 1U);
+}
+
+TEST_F(InterfaceTest, WithoutAWindowForThePaneTheRestGoesOnAndNothingIsAddedTwice)
+{
+    struct Ending final : orvui::IResourceManager {
+        int getCommandId(int localNumber) override
+        {
+            if (bar != nullptr) {
+                bar->DestroyWindow(); // the pane's window has no parent then
+            }
+            return 40000 + localNumber;
+        }
+        void addWindow(HWND window) override { windows.push_back(window); }
+        SideBar* bar = nullptr;
+        std::vector<HWND> windows;
+    };
+    openSideBar();
+    auto const ending = std::make_shared<Ending>();
+    ending->bar = &sideBar;
+    RecordingTabs& tabs = sideBar.tabs();
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), ending);
+    EXPECT_EQ(ending->windows, std::vector<HWND>{nullptr});
+    ASSERT_EQ(tabs.controls.size(), 1U);
+    EXPECT_EQ(tabs.controls[0].title, L"Feeds");
+    EXPECT_EQ(tabs.large.size(), 1U);
+    EXPECT_EQ(tabs.GetTabsNum(), 0) << "there is nothing to show";
+}
+
+TEST_F(InterfaceTest, WithoutAnActiveCategoryThePanelStandsInTheSecond)
+{
+    OrvantaCategory& first = openRibbon();
+    auto* const second = dynamic_cast<OrvantaCategory*>(
+        ribbon.AddCategory(L"View", 0, 0, CSize(16, 16), CSize(32, 32), -1, RUNTIME_CLASS(OrvantaCategory)));
+    ASSERT_NE(second, nullptr);
+    ribbon.*activeOf(Reach()) = nullptr; // a ribbon that has pages makes one active by itself
+    ASSERT_EQ(ribbon.GetActiveCategory(), nullptr);
+    plugin->AddToRibbon(ribbon.GetSafeHwnd(), resources);
+    EXPECT_EQ(first.GetPanelCount(), 2);
+    ASSERT_EQ(second->GetPanelCount(), 1);
+    EXPECT_STREQ(second->GetPanel(0)->GetName(), L"Cloud");
 }
 
 TEST_F(InterfaceTest, TheTabCountsTheEntriesOfTheFeed)

@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QWindow>
 
+#include <cstdlib>
 #include <new>
 #include <set>
 
@@ -52,6 +53,13 @@ protected:
     }
     ~LifecycleTest() override { FreeLibrary(module); }
 
+    /// Ends the pane first, which the plug-in would leave behind.
+    int destroyWhole(orv::IPlugin*& plugin) const
+    {
+        endPane(dynamic_cast<orvui::IGUIPlugin&>(*plugin));
+        return destroy(&plugin);
+    }
+
     std::string authorOfLastComment() const
     {
         Json::Value record;
@@ -75,7 +83,7 @@ TEST_F(LifecycleTest, APluginIsMadeAndDestroyed)
     EXPECT_STREQ(plugin->getName(), L"cloudplugin");
     EXPECT_EQ(static_cast<int>(plugin->getType()), 2);
     EXPECT_EQ(plugin->id(), orv::GUID(L"{a661d3e7-45cd-4e9f-8886-fd3efe39ba63}"));
-    EXPECT_EQ(destroy(&plugin), 0);
+    EXPECT_EQ(destroyWhole(plugin), 0);
     EXPECT_EQ(plugin, nullptr);
 }
 
@@ -96,7 +104,7 @@ TEST_F(LifecycleTest, WithoutMemoryANullIsStoredAndTheResultStaysZero)
     memoryIsOut = false;
     EXPECT_EQ(result, 0);
     EXPECT_EQ(other, nullptr);
-    EXPECT_EQ(destroy(&plugin), 0);
+    EXPECT_EQ(destroyWhole(plugin), 0);
 }
 
 TEST_F(LifecycleTest, ThePluginOfACreatingCallIsAlwaysANewOne)
@@ -106,10 +114,10 @@ TEST_F(LifecycleTest, ThePluginOfACreatingCallIsAlwaysANewOne)
     create(&first);
     create(&second);
     EXPECT_NE(first, second);
-    destroy(&first);
+    destroyWhole(first);
     EXPECT_EQ(first, nullptr);
     EXPECT_STREQ(second->getName(), L"cloudplugin");
-    destroy(&second);
+    destroyWhole(second);
 }
 
 TEST_F(LifecycleTest, ThePageGoesBeforeTheApplicationAndThatBeforeTheDocument)
@@ -133,6 +141,20 @@ TEST_F(LifecycleTest, ThePageGoesBeforeTheApplicationAndThatBeforeTheDocument)
     }
     EXPECT_EQ(atEndOfApplication, others + 1) << "the page had gone, the plug-in's document had not";
     EXPECT_EQ(own.document.use_count(), others);
+}
+
+TEST_F(LifecycleTest, TheExporterStaysWithThePaneThatNoSideBarGot)
+{
+    // In a process of its own, which takes the pane with it.
+    EXPECT_EXIT(
+        {
+            orv::IPlugin* plugin = nullptr;
+            create(&plugin);
+            bool const wasLoaded = GetModuleHandleW(exporterLibrary) != nullptr;
+            destroy(&plugin);
+            std::_Exit(wasLoaded && GetModuleHandleW(exporterLibrary) != nullptr ? 0 : 1);
+        },
+        testing::ExitedWithCode(0), "");
 }
 
 TEST_F(LifecycleTest, NoPreferencesAreKept)

@@ -19,24 +19,6 @@
 namespace orvtest
 {
 
-/// The plug-in's library, loaded in the way of the viewer.
-class LoadedPlugin
-{
-public:
-    LoadedPlugin() : library(ORV_PLUGIN_LIBRARY, "createPlugin", "destroyPlugin")
-    {
-        EXPECT_TRUE(library.isValid());
-        plugin = dynamic_cast<orvui::IGUIPlugin*>(library.get());
-        EXPECT_NE(plugin, nullptr);
-    }
-
-    orvui::IGUIPlugin* operator->() const { return plugin; }
-
-private:
-    orv::DLLFuncPtrHelper<orv::IPlugin> library;
-    orvui::IGUIPlugin* plugin = nullptr;
-};
-
 /// Gives command ids from 40000 on and keeps the windows that are enrolled.
 class FakeResourceManager final : public orvui::IResourceManager
 {
@@ -111,6 +93,42 @@ public:
 
 protected:
     std::unique_ptr<CMFCOutlookBarTabCtrl> MakeTabCtrl() override { return std::make_unique<RecordingTabs>(); }
+};
+
+/// Ends the pane of a plug-in that none of the test's side bars got: the plug-in leaves that to its window.
+inline void endPane(orvui::IGUIPlugin& plugin)
+{
+    CWnd parent;
+    EXPECT_TRUE(parent.CreateEx(0, nullptr, L"", 0, CRect(0, 0, 320, 700), nullptr, 0));
+    SideBar bar;
+    EXPECT_TRUE(bar.Create(L"Side bar", &parent, CRect(0, 0, 320, 700), 8, WS_CHILD));
+    plugin.AddToOutlookBar(bar.GetSafeHwnd(), std::make_shared<FakeResourceManager>());
+    parent.DestroyWindow();
+}
+
+/// The plug-in's library, loaded in the way of the viewer.
+class LoadedPlugin
+{
+public:
+    LoadedPlugin() : library(ORV_PLUGIN_LIBRARY, "createPlugin", "destroyPlugin")
+    {
+        EXPECT_TRUE(library.isValid());
+        plugin = dynamic_cast<orvui::IGUIPlugin*>(library.get());
+        EXPECT_NE(plugin, nullptr);
+    }
+
+    ~LoadedPlugin()
+    {
+        if (plugin != nullptr) {
+            endPane(*plugin);
+        }
+    }
+
+    orvui::IGUIPlugin* operator->() const { return plugin; }
+
+private:
+    orv::DLLFuncPtrHelper<orv::IPlugin> library;
+    orvui::IGUIPlugin* plugin = nullptr;
 };
 
 /// A plug-in with its pane in a side bar of its own.
