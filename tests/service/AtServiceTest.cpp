@@ -156,6 +156,25 @@ TEST_F(AtService, ASharingInvitesTheAddressesAsTyped)
     EXPECT_EQ(contentOf(environment.cloud("share")), "");
 }
 
+TEST_F(AtService, AHundredPeopleAreInvitedAtOnceAndNobodyOfMore)
+{
+    std::wstring const token = signIn();
+    std::wstring const job = send(token, "PRC");
+    auto const list = [](int count) {
+        std::wstring text;
+        for (int i = 0; i < count; ++i) {
+            text += L",colleague" + std::to_wstring(i) + L"@example.org,";
+        }
+        return text;
+    };
+    for (int const tooMany : {101, 500}) {
+        EXPECT_EQ(CloudHelper::share(ann, token, job, list(tooMany), L""), L"");
+        EXPECT_THAT(service.outbox(), IsEmpty());
+    }
+    EXPECT_EQ(CloudHelper::share(ann, token, job, list(100), L"1+1 is %2b"), L"100");
+    EXPECT_THAT(service.outbox(), SizeIs(100));
+}
+
 TEST_F(AtService, ALogoutEndsTheSessionAtBothEnds)
 {
     std::wstring const token = signIn();

@@ -5,11 +5,13 @@
 #include "platform/text/Text.h"
 #include "support/RecordingApplication.h"
 #include "support/ScriptedHttpServer.h"
+#include "ui/ResourceModule.h"
 #include "ui/feed/ShareFixture.h"
 
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <utility>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -78,10 +80,23 @@ TEST_F(ShareDialog, OpensWithPromptsTitleAndNoError)
                   dialog.GetWindowTextW(title);
                   EXPECT_STREQ(title.GetString(), L"Share gearbox.step");
                   EXPECT_NE(dialog.GetIcon(FALSE), nullptr);
+                  EXPECT_EQ(dialog.GetIcon(FALSE), LoadIconW(ResourceModule::handle(), MAKEINTRESOURCEW(1038)));
               }),
               stillOpen);
     EXPECT_THAT(viewer->events, IsEmpty());
     EXPECT_EQ(server.connections(), 0);
+}
+
+TEST_F(ShareDialog, PromptsStayWhileAnEmptyBoxHasTheFocus)
+{
+    run([](sharedlg& dialog) {
+        for (auto const& [box, prompt] :
+             {std::pair(message, L"(Optional)"), std::pair(to, L"Enter comma separated email addresses")}) {
+            CWnd* const control = dialog.GetDlgItem(box);
+            control->SendMessage(WM_SETFOCUS); // nothing is on show here that could have the focus
+            EXPECT_EQ(promptOf(dialog, box), prompt);
+        }
+    });
 }
 
 TEST_F(ShareDialog, EnterSharesFromEitherBox)

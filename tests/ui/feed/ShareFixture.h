@@ -43,7 +43,12 @@ protected:
             return stillOpen;
         });
         sharedlg dialog(scene.document, user, helper);
-        return dialog.DoModal();
+        orvweb::UserInfo const before = *user;
+        INT_PTR const result = dialog.DoModal();
+        EXPECT_EQ(user->username, before.username) << "sharing changes nothing of what is known of the user";
+        EXPECT_EQ(user->userid, before.userid);
+        EXPECT_EQ(user->name, before.name);
+        return result;
     }
     INT_PTR shareWith(std::wstring const& recipients, std::wstring const& words = {})
     {
