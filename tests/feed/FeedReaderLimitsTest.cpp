@@ -1,4 +1,4 @@
-// The largest, the deepest and the outermost that a response can hold, in both of its layers.
+// The largest, the deepest and the outermost that a response can hold, in both of its layers, and the damaged.
 
 #include "feed/FeedReader.h"
 
@@ -13,6 +13,7 @@
 #include <climits>
 #include <cmath>
 #include <limits>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -147,23 +148,26 @@ TEST(FeedReaderLimits, RefusesTenThousandLevelsInEitherLayer)
 
 TEST(FeedReaderLimits, TakesAsManyLevelsAsTheLibraryDoes)
 {
-    auto const depths = [](int levels) {
-        return readDocument("{\"source\":\"deep\",\"extra\":" + nested(levels) + "}").size();
+    std::string const why = "Exceeded stackLimit in readValue().";
+    auto const inside = [](int levels) {
+        return L"[{\"Content\":" + jsonString("{\"source\":\"deep\",\"extra\":" + nested(levels) + "}") + L"}]";
     };
-    EXPECT_EQ(depths(999), 1U);
-    EXPECT_THROW(depths(1001), Json::Exception);
-    std::string const extra = nested(990);
-    EXPECT_EQ(
-        FeedReader().read(L"[{\"Content\":\"{}\",\"Extra\":" + std::wstring(extra.begin(), extra.end()) + L"}]").size(),
-        1U);
+    auto const outside = [](int levels) {
+        std::string const extra = nested(levels);
+        return L"[{\"Content\":\"{}\",\"Extra\":" + std::wstring(extra.begin(), extra.end()) + L"}]";
+    };
+    EXPECT_EQ(FeedReader().read(inside(999)).size(), 1U) << "a thousand with the document";
+    EXPECT_EQ(refusalOf(inside(1000)), why);
+    EXPECT_EQ(FeedReader().read(outside(998)).size(), 1U) << "a thousand with the array and its element";
+    EXPECT_EQ(refusalOf(outside(999)), why);
 }
 
 TEST(FeedReaderLimits, TakesNodesToTheEndsOfInt)
 {
-    auto const objects = readObjects(R"("hidden":[2147483647,-2147483648,2147483647.0,-0.9],)"
+    auto const objects = readObjects(R"("hidden":[2147483647,-2147483648,2147483647.0,-2147483648.0,-0.9],)"
                                      R"("transparent":[-2147483648,2147483646.75],)"
                                      R"("nodecolor":{"2147483647":-2147483648,"-2147483648":2147483647})");
-    EXPECT_THAT(objects.hidden, ElementsAre(INT_MAX, INT_MIN, INT_MAX, 0));
+    EXPECT_THAT(objects.hidden, ElementsAre(INT_MAX, INT_MIN, INT_MAX, INT_MIN, 0));
     EXPECT_THAT(objects.transparent, ElementsAre(INT_MIN, INT_MAX - 1));
     EXPECT_THAT(objects.nodecolor, ElementsAre(Pair(INT_MIN, INT_MAX), Pair(INT_MAX, INT_MIN)));
 }
@@ -183,7 +187,8 @@ TEST(FeedReaderLimits, RefusesNodesPastTheEndsOfInt)
           Case{"18446744073709551615", "LargestUInt out of Int range"},
           Case{"18446744073709551616", "double out of Int range"},
           Case{"-9223372036854775809", "double out of Int range"}, Case{"2147483647.5", "double out of Int range"},
-          Case{"-2147483648.5", "double out of Int range"},
+          Case{"-2147483648.5", "double out of Int range"}, Case{"2147483648.0", "double out of Int range"},
+          Case{"-3000000000", "LargestInt out of Int range"}, Case{"1e30", "double out of Int range"},
           Case{"1.7976931348623157e308", "double out of Int range"}}) {
         SCOPED_TRACE(number);
         std::string const text = number;
@@ -204,6 +209,10 @@ TEST(FeedReaderLimits, HoldsKeysToTheRangeOfInt)
     EXPECT_THAT(colors("9223372036854775808"), ElementsAre(Pair(INT_MAX, 7)));
     EXPECT_THAT(colors(huge), ElementsAre(Pair(INT_MAX, 7)));
     EXPECT_THAT(colors("-" + huge), ElementsAre(Pair(INT_MIN, 7)));
+    EXPECT_THAT(colors("9223372036854775807"), ElementsAre(Pair(INT_MAX, 7)));
+    EXPECT_THAT(colors("4294967297"), ElementsAre(Pair(INT_MAX, 7))) << "it doesn't wrap around to 1";
+    EXPECT_THAT(colors("2147483647"), ElementsAre(Pair(INT_MAX, 7)));
+    EXPECT_THAT(colors("-2147483648"), ElementsAre(Pair(INT_MIN, 7)));
     EXPECT_THAT(colors("\\t +5"), ElementsAre(Pair(5, 7)));
     EXPECT_THAT(colors(""), ElementsAre(Pair(0, 7)));
     auto const moved = readObjects("\"nodetransform\":{\"" + huge + "\":[1],\"-" + huge + "\":[2]}").nodetransform;
@@ -229,6 +238,7 @@ TEST(FeedReaderLimits, NarrowsToFloatsAsTheProcessorDoes)
 
 TEST(FeedReaderLimits, KeepsDoublesToTheirLastBit)
 {
+    EXPECT_EQ(parsedDouble("0.1"), 0.1) << "no float on its way";
     EXPECT_EQ(parsedDouble("1.7976931348623157e308"), std::numeric_limits<double>::max());
     EXPECT_EQ(parsedDouble("2.2250738585072014e-308"), std::numeric_limits<double>::min());
     EXPECT_EQ(parsedDouble("5e-324"), std::numeric_limits<double>::denorm_min());
@@ -254,4 +264,41 @@ TEST(FeedReaderLimits, TakesAnyNumberForAText)
     EXPECT_EQ(id("-9223372036854775808"), L"-9223372036854775808");
     EXPECT_EQ(id("18446744073709551616"), L"1.8446744073709552e+19");
     EXPECT_EQ(id("5e-324"), L"4.9406564584124654e-324");
+}
+
+TEST(FeedReaderLimits, TakesOrRefusesDamageWithoutHarm)
+{
+    std::wstring const good =
+        L"[{\"Content\":" +
+        jsonString(
+            R"({"author":{"id":"u","canEdit":true},"commentcontent":{"viewport":{"eye":[1,2.5,-3],"zoom":1},"objects":)"
+            R"({"colored":[[0,0,1]],"hidden":[9,3],"nodecolor":{"7":255},"nodetransform":{"5":[1,2,3]}}},"source":"web"})") +
+        L",\"Thumbnail\":\"data:image/jpeg;base64,AAAA\"}]";
+    std::wstring const pieces = LR"({}[]",:\\0-19.eE+ntfu"\ud8)";
+    std::mt19937 random(20261115);
+    int refused = 0;
+    for (int round = 0; round < 20000; ++round) {
+        std::wstring text = good;
+        for (unsigned change = random() % 4 + 1; change > 0; --change) {
+            std::size_t const at = random() % text.size();
+            wchar_t const piece = pieces[random() % pieces.size()];
+            switch (random() % 3) {
+            case 0:
+                text[at] = piece;
+                break;
+            case 1:
+                text.insert(at, 1, piece);
+                break;
+            default:
+                text.erase(at, random() % 8 + 1);
+            }
+        }
+        try {
+            FeedReader().read(text);
+        } catch (Json::Exception const&) {
+            ++refused; // which the viewer survives; anything else is a fault of the reader
+        }
+    }
+    EXPECT_GT(refused, 0);
+    EXPECT_LT(refused, 20000);
 }

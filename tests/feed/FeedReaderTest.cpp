@@ -7,9 +7,6 @@
 
 #include <json/json.h>
 
-#include <climits>
-#include <exception>
-#include <random>
 #include <string>
 #include <utility>
 #include <vector>
@@ -220,24 +217,6 @@ TEST(FeedReader, TakesKeysInTheOrderOfTheirBytes)
     EXPECT_EQ(objects.nodetransform.at(1)[0], 3.0F);
 }
 
-TEST(FeedReader, HoldsKeysToTheRangeOfInt)
-{
-    for (auto const& [key, node] : {std::pair("2147483647", INT_MAX), std::pair("2147483648", INT_MAX),
-                                    std::pair("9223372036854775808", INT_MAX), std::pair("-2147483648", INT_MIN),
-                                    std::pair("-2147483649", INT_MIN), std::pair("-99999999999999999999", INT_MIN)}) {
-        std::string const map = "{\"" + std::string(key) + "\":1}";
-        EXPECT_THAT(readObjects("{\"nodecolor\":" + map + "}").nodecolor, ElementsAre(std::pair(node, 1))) << key;
-    }
-    EXPECT_EQ(readObjects(R"({"nodetransform":{"4294967297":[1]}})").nodetransform.begin()->first, INT_MAX)
-        << "it doesn't wrap around to 1";
-}
-
-TEST(FeedReader, TakesNumbersUpToTheLimitsOfInt)
-{
-    EXPECT_THAT(readObjects(R"({"hidden":[2147483647,-2147483648,-2147483648.0]})").hidden,
-                ElementsAre(INT_MAX, INT_MIN, INT_MIN));
-}
-
 TEST(FeedReader, TakesFlagsNumbersAndNullForEachOther)
 {
     EXPECT_THAT(readObjects(R"({"hidden":[true,false,null,-2.9,0.0]})").hidden, ElementsAre(1, 0, 0, -2, 0));
@@ -248,12 +227,6 @@ TEST(FeedReader, TakesFlagsNumbersAndNullForEachOther)
     FeedViewport const view =
         readOne(R"({"commentcontent":{"viewport":{"eye":[true,null,3],"zoom":true}}})").comment.viewport;
     EXPECT_EQ(view, FeedViewport(Vector3(1, 0, 3), Vector3(), Vector3(), 1.0));
-}
-
-TEST(FeedReader, KeepsTheZoomAsADouble)
-{
-    EXPECT_EQ(readOne(R"({"commentcontent":{"viewport":{"zoom":0.1}}})").comment.viewport.zoom, 0.1);
-    EXPECT_EQ(readOne(R"({"commentcontent":{"viewport":{"zoom":1e300}}})").comment.viewport.zoom, 1e300);
 }
 
 TEST(FeedReader, TakesNullForAnEmptyDocument)
@@ -306,11 +279,6 @@ TEST(FeedReader, DropsAnElementWithHalfACharacter)
     EXPECT_THAT(read(responseOf(R"({"source":"\ud83d"})")), IsEmpty());
 }
 
-TEST(FeedReader, DropsAnElementWithANumberBeyondDouble)
-{
-    EXPECT_THAT(read(responseOf(R"({"commentcontent":{"viewport":{"eye":[1e+9999,0,0]}}})")), IsEmpty());
-}
-
 TEST(FeedReader, CountsScalarsInPlaceOfListsAsEmpty)
 {
     FeedObjects const objects =
@@ -360,10 +328,6 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{R"({"commentcontent":{"objects":{"hidden":["1"]}}})", "Value is not convertible to Int."},
         BadCase{R"({"commentcontent":{"objects":{"nodecolor":{"1":[]}}}})", "Value is not convertible to Int."},
         BadCase{R"({"author":{"canEdit":"yes"}})", "Value is not convertible to bool."},
-        BadCase{R"({"commentcontent":{"objects":{"hidden":[-3000000000]}}})", "LargestInt out of Int range"},
-        BadCase{R"({"commentcontent":{"objects":{"hidden":[-2147483649]}}})", "LargestInt out of Int range"},
-        BadCase{R"({"commentcontent":{"objects":{"hidden":[2147483648]}}})", "LargestUInt out of Int range"},
-        BadCase{R"({"commentcontent":{"objects":{"hidden":[2147483648.0]}}})", "double out of Int range"},
         BadCase{R"({"commentcontent":{"objects":{"transparent":[1,{}]}}})", "Value is not convertible to Int."},
         BadCase{R"({"commentcontent":{"objects":{"colored":[[1],5]}}})", notAnArray},
         BadCase{R"({"commentcontent":{"objects":{"colored":[["1"]]}}})", "Value is not convertible to double."},
@@ -375,85 +339,30 @@ INSTANTIATE_TEST_SUITE_P(
         BadCase{R"({"file":[]})", notAnObject}, BadCase{R"({"file":{"id":[]}})", notAText},
         BadCase{R"({"author":{"canDelete":{}}})", "Value is not convertible to bool."},
         BadCase{R"({"author":{"id":[],"canEdit":"x"},"file":5})", notAText},
-        BadCase{R"({"author":{"canEdit":"x"},"file":5})", "Value is not convertible to bool."},
-        BadCase{R"({"commentcontent":{"objects":{"transparent":[10000000000000000000]}}})",
-                "LargestUInt out of Int range"},
-        BadCase{R"({"commentcontent":{"objects":{"nodecolor":{"1":1e30}}}})", "double out of Int range"}));
+        BadCase{R"({"author":{"canEdit":"x"},"file":5})", "Value is not convertible to bool."}));
 
-TEST(BadFeed, WithAnObjectForItsRootRaisesTheLibrarysException)
+TEST(BadFeed, WithARootOfTheWrongKindRaisesTheLibrarysException)
 {
-    EXPECT_THROW(read(LR"({"Content":"{}"})"), Json::Exception);
-    EXPECT_THROW(read(LR"([5])"), Json::Exception);
-    EXPECT_THROW(read(LR"([{"Content":{}}])"), Json::Exception);
-}
-
-TEST(DamagedFeed, IsReadOrRefusedWithoutHarm)
-{
-    std::wstring const good = responseOf(
-        R"({"author":{"id":"u","canEdit":true},"commentcontent":{"viewport":{"eye":[1,2.5,-3],"zoom":1},"objects":)"
-        R"({"colored":[[0,0,1]],"hidden":[9,3],"nodecolor":{"7":255},"nodetransform":{"5":[1,2,3]}}},"source":"web"})",
-        "data:image/jpeg;base64,AAAA");
-    std::wstring const pieces = LR"({}[]",:\\0-19.eE+ntfu"\ud8)";
-    std::mt19937 random(20261115);
-    int refused = 0;
-    for (int round = 0; round < 20000; ++round) {
-        std::wstring text = good;
-        for (unsigned change = random() % 4 + 1; change > 0; --change) {
-            std::size_t const at = random() % text.size();
-            wchar_t const piece = pieces[random() % pieces.size()];
-            switch (random() % 3) {
-            case 0:
-                text[at] = piece;
-                break;
-            case 1:
-                text.insert(at, 1, piece);
-                break;
-            default:
-                text.erase(at, random() % 8 + 1);
-            }
-        }
-        try {
-            read(text);
-        } catch (std::exception const&) {
-            ++refused; // the library's own, which the viewer survives
-        }
-    }
-    EXPECT_GT(refused, 0);
-    EXPECT_LT(refused, 20000);
-}
-
-/// A document of that many levels around a number.
-std::string nested(int levels)
-{
-    std::string text = R"({"deep":)";
-    text += std::string(static_cast<std::size_t>(levels) - 1, '[');
-    text += '0';
-    text += std::string(static_cast<std::size_t>(levels) - 1, ']');
-    return text + "}";
-}
-
-TEST(DeepFeed, RaisesTheLibrarysExceptionBeyondAThousandLevels)
-{
-    constexpr char const* tooDeep = "Exceeded stackLimit in readValue().";
-    constexpr int most = 999; // and the number inside
-    EXPECT_EQ(read(responseOf(nested(most))).size(), 1U);
-    EXPECT_EQ(read(L"[{\"Content\":\"{}\",\"More\":" + orvtext::fromUtf8(nested(most - 2)) + L"}]").size(), 1U);
-    for (std::wstring const& response :
-         {responseOf(nested(most + 1)),
-          L"[{\"Content\":\"{}\",\"More\":" + orvtext::fromUtf8(nested(most - 1)) + L"}]"}) {
+    struct {
+        wchar_t const* response;
+        char const* message;
+    } const cases[] = {{LR"({"Content":"{}"})", notAnArray},
+                       {LR"({"0":{"Content":"{}"}})", notAnArray},
+                       {LR"([5])", notAnObject},
+                       {LR"(["text"])", notAnObject},
+                       {LR"([[]])", notAnObject},
+                       {LR"([[{"Content":"{}"}]])", notAnObject},
+                       {LR"([{"Content":"{}"},5])", notAnObject},
+                       {LR"([{"Content":{}}])", notAText},
+                       {LR"([{"Content":["{}"]}])", notAText}};
+    for (auto const& [response, message] : cases) {
         try {
             read(response);
-            FAIL() << "no exception";
-        } catch (Json::RuntimeError const& error) {
-            EXPECT_STREQ(error.what(), tooDeep);
+            ADD_FAILURE() << "no exception for " << orvtext::toUtf8(response);
+        } catch (Json::Exception const& error) {
+            EXPECT_STREQ(error.what(), message) << orvtext::toUtf8(response);
         }
     }
-}
-
-TEST(DamagedFeed, MayBeNestedDeeply)
-{
-    EXPECT_THROW(read(std::wstring(200000, L'[')), std::exception);
-    EXPECT_THROW(read(responseOf(std::string(200000, '['))), std::exception);
 }
 
 } // namespace
