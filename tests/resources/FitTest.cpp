@@ -4,10 +4,13 @@
 
 #include "platform/qt/Gdi.h"
 
+#include <QtGui/QFontDatabase>
 #include <QtGui/QFontMetrics>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QRawFont>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <regex>
 
 using namespace restest;
@@ -118,6 +121,40 @@ TEST_P(FitTest, HoldsForEveryText)
         }
     }
     EXPECT_GE(checked, dpi() > 96 ? 19 : 20);
+}
+
+TEST_P(FitTest, IsInAFontThatHasEveryCharacter)
+{
+    static const std::map<std::string, QFontDatabase::WritingSystem> systems{
+        {"ja", QFontDatabase::Japanese}, {"ko", QFontDatabase::Korean}, {"zh", QFontDatabase::SimplifiedChinese}};
+    const auto own = systems.find(std::string(language().code));
+    const QFontDatabase::WritingSystem system = own == systems.end() ? QFontDatabase::Latin : own->second;
+    std::vector<QRawFont> fonts{QRawFont::fromFont(font()), QRawFont::fromFont(font(), system)};
+    for (const QString& family : QFontDatabase::families(system)) {
+        if (family.startsWith("DejaVu Sans") || family.startsWith("Noto Sans CJK")) { // of packages.txt
+            fonts.push_back(QRawFont::fromFont(QFont(family)));
+        }
+    }
+    std::u16string all;
+    for (const auto& [id, text] : stringsOf(resources(), language().tag)) {
+        all += text;
+    }
+    for (int i = 0; i < DialogKindCount; ++i) {
+        const Dialog& dialog = dialogOf(language(), static_cast<DialogKind>(i));
+        all += dialog.title;
+        for (const Control& control : dialog.controls) {
+            if (const auto* text = std::get_if<std::u16string>(&control.text)) {
+                all += *text;
+            }
+        }
+    }
+    EXPECT_GT(all.size(), 500U);
+    for (const char16_t character : all) {
+        const bool isThere = std::any_of(fonts.begin(), fonts.end(), [character](const QRawFont& candidate) {
+            return candidate.isValid() && candidate.supportsCharacter(QChar(character));
+        });
+        EXPECT_TRUE(isThere) << "U+" << std::hex << static_cast<unsigned>(character);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, FitTest,

@@ -141,6 +141,50 @@ TEST(Artwork, IsOneFamily)
     }
 }
 
+TEST(Artwork, OfTheViewerIsOfTheSameFamily)
+{
+    int count = 0;
+    for (const auto& entry : fs::directory_iterator(fs::path(ORV_SOURCE_DIR) / "resources/artwork/viewer")) {
+        if (entry.path().extension() != ".svg" || entry.path().stem() == "orvanta") { // the window icon is filled
+            continue;
+        }
+        SCOPED_TRACE(entry.path().filename().string());
+        const Bytes bytes = readFile(entry.path());
+        const std::string drawing(bytes.begin(), bytes.end());
+        std::set<std::string> strokes = found(drawing, "stroke=\"(#[0-9A-Fa-f]{3,6})\"");
+        EXPECT_TRUE(strokes.contains("#7A838E"));
+        strokes.erase("#7A838E");
+        strokes.erase("#3A7AE8");
+        EXPECT_TRUE(strokes.empty());
+        EXPECT_EQ(found(drawing, "viewBox=\"([0-9 ]+)\""), std::set<std::string>{"0 0 32 32"});
+        std::set<std::string> widths = found(drawing, "stroke-width=\"([0-9.]+)\"");
+        EXPECT_TRUE(widths.contains("2"));
+        widths.erase("2");
+        widths.erase("1"); // an edge behind others
+        EXPECT_TRUE(widths.empty());
+        EXPECT_EQ(found(drawing, "stroke-linecap=\"([a-z]+)\""), std::set<std::string>{"round"});
+        ++count;
+    }
+    EXPECT_GE(count, 29);
+}
+
+TEST(Artwork, OfTheWindowIconsIsFilledWithTheFamilysBlue)
+{
+    for (const char* const name : {"cloud.svg", "cloud-small.svg"}) {
+        SCOPED_TRACE(name);
+        const Bytes bytes = readFile(fs::path(ORV_SOURCE_DIR) / "resources/artwork" / name);
+        const std::string drawing(bytes.begin(), bytes.end());
+        EXPECT_EQ(found(drawing, "fill=\"(#[0-9A-Fa-f]{3,6})\""), std::set<std::string>{"#3A7AE8"});
+        EXPECT_EQ(found(drawing, "stroke=\"(#[0-9A-Fa-f]{3,6})\""), std::set<std::string>{"#FFFFFF"});
+        EXPECT_EQ(found(drawing, "stroke-linecap=\"([a-z]+)\""), std::set<std::string>{"round"});
+    }
+    const QColor blue(0x3A, 0x7A, 0xE8);
+    EXPECT_GE(contrast(blue, Qt::white), 3.0) << "the arrow on the cloud";
+    for (const QColor& background : backgrounds) {
+        EXPECT_GE(contrast(blue, background), 3.0);
+    }
+}
+
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);
