@@ -134,6 +134,25 @@ TEST_F(SceneDisplayTest, TransparencyShowsAndGoesAgain)
     EXPECT_EQ(difference(before, draw()), 0U);
 }
 
+TEST_F(SceneDisplayTest, WhatShinesThroughLooksTheSameWhateverWasShownBefore)
+{
+    orvsgutils::MaterialUtils::setNodeTransparency(0, 0.5F, resources, runtime, topology);
+    display->sync();
+    auto const before = draw();
+    for (int const child : topology->nodes.getValue(0).children) {
+        runtime->visibility[static_cast<std::size_t>(child)] = false;
+        display->sync();
+        runtime->visibility[static_cast<std::size_t>(child)] = true;
+        display->sync();
+        EXPECT_EQ(draw(), before) << "hidden and shown: " << child;
+    }
+    orvsgutils::MaterialUtils::resetAll(resources, runtime, topology);
+    display->sync();
+    orvsgutils::MaterialUtils::setNodeTransparency(0, 0.5F, resources, runtime, topology);
+    display->sync();
+    EXPECT_EQ(draw(), before) << "opaque and transparent again";
+}
+
 TEST_F(SceneDisplayTest, MovedNodesMoveWithAllBelow)
 {
     auto const before = draw();

@@ -79,9 +79,17 @@ void SharedPart::Compute(Handle(PrsMgr_PresentationManager) const&, Handle(Prs3d
     }
 }
 
+void PartInstance::setPart(Handle(SharedPart) const& part)
+{
+    shared = part;
+    SetToUpdate();
+    UpdatePresentations(Standard_True);
+}
+
 void PartInstance::Compute(Handle(PrsMgr_PresentationManager) const& manager,
                            Handle(Prs3d_Presentation) const& presentation, Standard_Integer mode)
 {
+    presentation->SetDisplayPriority(drawingPriority);
     presentation->DisconnectAll(Graphic3d_TOC_DESCENDANT);
     if (!shared->HasInteractiveContext()) {
         shared->SetContext(GetContext());

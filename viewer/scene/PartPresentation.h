@@ -47,11 +47,14 @@ class PartInstance : public AIS_InteractiveObject
     DEFINE_STANDARD_RTTI_INLINE(PartInstance, AIS_InteractiveObject)
 
 public:
+    /// Of its own, below the default: what else comes and goes in the view doesn't change the parts' order.
+    static constexpr int drawingPriority = 4;
+
     explicit PartInstance(int node) : nodeNumber(node) {}
 
     int node() const { return nodeNumber; }
-    /// The presentation must be recomputed afterwards where it exists already.
-    void setPart(Handle(SharedPart) const& part) { shared = part; }
+    /// Takes the place of what it showed before, also where it is hidden: that may belong to a part that goes away.
+    void setPart(Handle(SharedPart) const& part);
 
 protected:
     void Compute(Handle(PrsMgr_PresentationManager) const& manager, Handle(Prs3d_Presentation) const& presentation,

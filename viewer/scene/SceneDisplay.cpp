@@ -145,6 +145,7 @@ void SceneDisplay::State::makeFrameView()
     frameCube = makeCube(frameView);
     context->Deactivate(frameCube);
     keepCubesApart();
+    presentations->putInOrder();
 }
 
 void SceneDisplay::State::followWindow()
@@ -224,6 +225,7 @@ void SceneDisplay::attachWindow(unsigned long window)
     state->screenCube = state->makeCube(state->screenView);
     state->screenWidth = state->screenHeight = 0;
     state->keepCubesApart();
+    state->presentations->putInOrder();
     setBackground(state->screenView, state->isDark);
     state->isSoftware = drawsInSoftware(state->screenView);
     if (state->isSoftware) {

@@ -109,8 +109,7 @@ void ScenePresentations::sync()
         if (isNew) {
             entry.instance = new PartInstance(node);
         }
-        bool const looksDifferent = isNew || entry.look != look;
-        if (looksDifferent) {
+        if (isNew || entry.look != look) {
             entry.look = look;
             entry.instance->setPart(sharedPart(look));
             looksChanged = true;
@@ -119,23 +118,37 @@ void ScenePresentations::sync()
             entry.placement = placement;
             context->SetLocation(entry.instance, placement);
         }
-        if (isVisible && !entry.isVisible) {
+        if (isNew) {
             context->Display(entry.instance, 0, 0, Standard_False);
-            if (looksDifferent && !isNew) {
-                context->RecomputePrsOnly(entry.instance, Standard_False, Standard_True);
-            }
-        } else if (!isVisible && entry.isVisible) {
-            // The hidden instance forgets its presentation, which may belong to a part that goes away meanwhile.
-            context->Remove(entry.instance, Standard_False);
-        } else if (isVisible && looksDifferent) {
-            context->RecomputePrsOnly(entry.instance, Standard_False, Standard_True);
         }
-        entry.isVisible = isVisible;
+        if (entry.isVisible != isVisible) {
+            entry.isVisible = isVisible;
+            setVisible(entry.instance, isVisible);
+        }
     }
     if (looksChanged) {
         dropUnusedParts();
     }
     applySelection();
+}
+
+void ScenePresentations::setVisible(Handle(PartInstance) const& instance, bool visible)
+{
+    context->MainPrsMgr()->SetVisibility(instance, 0, visible);
+    if (visible) {
+        context->Activate(instance);
+    } else {
+        context->Deactivate(instance);
+    }
+}
+
+void ScenePresentations::putInOrder()
+{
+    for (int const priority : {PartInstance::drawingPriority - 1, PartInstance::drawingPriority}) {
+        for (auto const& [node, entry] : shown) {
+            context->MainPrsMgr()->Presentation(entry.instance, 0)->SetDisplayPriority(priority);
+        }
+    }
 }
 
 void ScenePresentations::dropUnusedParts()
@@ -166,7 +179,7 @@ void ScenePresentations::applySelection()
         }
     }
     for (auto const& [node, entry] : shown) {
-        if (entry.isVisible && context->IsSelected(entry.instance) != leaves.contains(node)) {
+        if (context->IsSelected(entry.instance) != leaves.contains(node)) {
             context->AddOrRemoveSelected(entry.instance, Standard_False);
         }
     }

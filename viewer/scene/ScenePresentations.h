@@ -16,13 +16,17 @@ namespace orvviewer
 {
 
 /// The presentations of a document's nodes. sync compares the records with what was shown last and touches only what
-/// differs.
+/// differs. Every node is in the drawing from the start and in the order of the nodes, hidden or not: what shines
+/// through is blended, and what lies in one plane is drawn, in the drawing's order, and a scene's picture must not
+/// depend on what was shown before.
 class ScenePresentations
 {
 public:
     explicit ScenePresentations(Handle(AIS_InteractiveContext) context);
 
     void setDocument(std::shared_ptr<orv::IDocument> document);
+    /// A view that was made after the document was shown takes the nodes over in any order: puts them right.
+    void putInOrder();
     void sync();
     /// Nodes with children stand for all parts below them.
     void setSelection(std::set<int> const& nodes);
@@ -33,11 +37,12 @@ private:
         Handle(PartInstance) instance;
         Appearance look;
         gp_Trsf placement;
-        bool isVisible = false;
+        bool isVisible = true;
     };
 
     Handle(SharedPart) sharedPart(Appearance const& look);
     void dropUnusedParts();
+    void setVisible(Handle(PartInstance) const& instance, bool visible);
     void applySelection();
 
     Handle(AIS_InteractiveContext) context;
