@@ -95,6 +95,9 @@ TEST_F(ShareDialog, PromptsStayWhileAnEmptyBoxHasTheFocus)
             CWnd* const control = dialog.GetDlgItem(box);
             control->SendMessage(WM_SETFOCUS); // nothing is on show here that could have the focus
             EXPECT_EQ(promptOf(dialog, box), prompt);
+            control->SendMessage(EM_SETCUEBANNER, FALSE, reinterpret_cast<LPARAM>(prompt));
+            control->SendMessage(WM_SETFOCUS);
+            EXPECT_EQ(promptOf(dialog, box), L"") << "one that isn't asked to stay";
         }
     });
 }
