@@ -32,14 +32,14 @@ protected:
     void paintEvent(QPaintEvent* event) override
     {
         const QFont fitted = fittedFont(*this);
-        if (fitted == font()) {
+        if (fitted == font() && textRoom(*this) == contentsRect()) {
             QLabel::paintEvent(event);
         } else {
             QPainter painter(this);
             drawFrame(&painter);
             painter.setFont(fitted);
-            style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()) | Qt::TextWordWrap, palette(),
-                                  isEnabled(), text(), foregroundRole());
+            style()->drawItemText(&painter, textRoom(*this), static_cast<int>(alignment()) | Qt::TextWordWrap,
+                                  palette(), isEnabled(), text(), foregroundRole());
         }
         if (picture.isNull() && !bitmap)
             return;
@@ -115,9 +115,24 @@ private:
 };
 } // namespace
 
+QRect textRoom(const QLabel& label)
+{
+    QRect room = label.contentsRect();
+    if (!label.parentWidget() || !label.wordWrap())
+        return room;
+    const auto neighbours = label.parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
+    for (const QAbstractButton* button : neighbours) {
+        const QRect covered = button->geometry().translated(-label.pos()).intersected(room);
+        if (button->isVisibleTo(label.parentWidget()) && !covered.isEmpty() && covered.right() == room.right() &&
+            covered.left() > room.center().x())
+            room.setRight(covered.left() - 1);
+    }
+    return room;
+}
+
 QFont fittedFont(const QLabel& label)
 {
-    const QRect room = label.contentsRect();
+    const QRect room = textRoom(label);
     if (!label.wordWrap() || label.textFormat() != Qt::PlainText || label.text().isEmpty())
         return label.font();
     const auto fits = [&](const QFont& font) {

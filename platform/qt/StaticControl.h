@@ -5,6 +5,7 @@
 
 QT_BEGIN_NAMESPACE
 class QLabel;
+class QRect;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -12,6 +13,9 @@ namespace orvplatform
 {
 // Labels and pictures, by style.
 HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent);
+
+// Where a label draws its text: all of its place but what a shown button covers at its right end.
+QRect textRoom(const QLabel& label);
 
 // The font in which a label draws its text: its own, or a smaller one, by two fifths at most, where the text would be
 // cut.

@@ -107,3 +107,23 @@ TEST_F(Fitting, LeavesALabelThatNothingHelps)
         makeLabel(60, 15, L"A text that goes on for far longer than any label of this width could show");
     EXPECT_EQ(orvplatform::fittedFont(made), made.font());
 }
+
+TEST_F(Fitting, LeavesAShownButtonAtTheRightEndItsPlace)
+{
+    QLabel& made = makeLabel(180, 30, L"Nov 15, 2026 16:11 PM");
+    QFont large = made.font();
+    large.setPixelSize(18);
+    made.setFont(large);
+    ASSERT_TRUE(button.Create(L"", WS_CHILD, CRect(165, 60, 189, 84), &frame, 1));
+    EXPECT_EQ(orvplatform::textRoom(made), made.contentsRect()) << "the button is hidden";
+    button.ShowWindow(SW_SHOW);
+    EXPECT_EQ(orvplatform::textRoom(made), QRect(0, 0, 165, 30));
+    const QFont fitted = orvplatform::fittedFont(made);
+    EXPECT_LT(QFontInfo(fitted).pixelSize(), 18);
+    const QImage drawn = made.grab().toImage();
+    for (int y = 0; y < drawn.height(); ++y)
+        for (int x = 165; x < drawn.width(); ++x)
+            ASSERT_EQ(drawn.pixel(x, y), drawn.pixel(179, 29)) << x << ", " << y;
+    button.MoveWindow(0, 60, 24, 24);
+    EXPECT_EQ(orvplatform::textRoom(made), made.contentsRect()) << "the button covers the beginning, which needs more";
+}
