@@ -105,8 +105,8 @@ std::string feedOf(std::size_t count)
 struct Costs {
     double parse = 0.0;   ///< milliseconds of processor time, as the next four
     double headers = 0.0; ///< decoding the texts and reading the pictures' headers
-    double first = 0.0;   ///< hint 40 with a pool of 100 blocks
-    double rebuild = 0.0; ///< hint 40 again
+    double first = 0.0;   ///< hint 40 with a pool of 100 blocks, until the pane is drawn
+    double rebuild = 0.0; ///< hint 40 again, until the pane is drawn
     double load = 0.0;    ///< of the first load what comes before hint 40: answers taken over, parse
     double frame = 0.0;   ///< one step of scrolling, the median
     double slowestFrame = 0.0;
@@ -136,13 +136,15 @@ public:
         application->notifier->deliver = [&](orv::IHint* hint) { costs.first = timed([&] { pane->OnUpdate(hint); }); };
         expectFeedText(answer);
         costs.load = timed([&] { pane->OnActivateChange(true); }) - costs.first;
-        orvplatform::testing::processEvents();
+        costs.first += timed([] { orvplatform::testing::processEvents(); });
         costs.grown = residentMebibytes() - before;
         costs.isWhole = visibleBlocks() == static_cast<int>(count);
         std::vector<double> rebuilds;
         for (int i = 0; i < rounds; ++i) {
-            rebuilds.push_back(timed([&] { orvtest::sendHint(*pane, codes::feedReloaded, scene.document); }));
-            orvplatform::testing::processEvents();
+            rebuilds.push_back(timed([&] {
+                orvtest::sendHint(*pane, codes::feedReloaded, scene.document);
+                orvplatform::testing::processEvents();
+            }));
         }
         costs.rebuild = median(rebuilds);
         measureScrolling(costs);
@@ -236,8 +238,9 @@ int main(int argc, char** argv)
         aims.expectUnder(std::to_string(count) + " records, scrolling by one frame", all[count].frame, 1000.0 / 60.0,
                          " ms");
     }
-    aims.expectUnder("1,000 records rebuilt", all[1000].rebuild, 150.0, " ms");
-    aims.expectUnder("10,000 records rebuilt, times 1,000", all[10000].rebuild / all[1000].rebuild, linear, "");
+    aims.expectUnder("1,000 records rebuilt and drawn", all[1000].rebuild, 150.0, " ms");
+    aims.expectUnder("10,000 records rebuilt and drawn, times 1,000", all[10000].rebuild / all[1000].rebuild, linear,
+                     "");
     aims.expectUnder("10,000 records shown first, times 1,000", all[10000].first / all[1000].first, linear, "");
     return aims.exitStatus();
 }
