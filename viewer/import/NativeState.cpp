@@ -99,11 +99,21 @@ std::wstring textOf(TCollection_ExtendedString const& text)
     return orvtext::fromUtf8(utf8);
 }
 
-orvsg::Container<int, int> nodeList(std::vector<int> const& nodes, std::size_t count)
+/// The list of the file made to hold the flagged nodes and no others: taking all colours off goes by the list, so a
+/// node that it lacked would keep its own.
+orvsg::NodeList nodeList(std::vector<int> const& nodes, std::vector<int> const& flags, native::Flag flag)
 {
-    orvsg::Container<int, int> list;
+    auto const isFlagged = [&](std::size_t node) { return (flags[node] & flag) != 0; };
+    orvsg::NodeList list;
     for (int const node : nodes) {
-        list.append(node >= 0 && static_cast<std::size_t>(node) < count ? node : -1);
+        auto const at = static_cast<std::size_t>(node);
+        bool const belongs = node >= 0 && at < flags.size() && isFlagged(at) && !list.holds(node);
+        list.append(belongs ? node : -1);
+    }
+    for (std::size_t node = 0; node < flags.size(); ++node) {
+        if (isFlagged(node)) {
+            list.enter(static_cast<int>(node));
+        }
     }
     return list;
 }
@@ -178,8 +188,10 @@ std::optional<orvgl::Camera> applyNativeState(Handle(TDocStd_Document) const& do
         resources.materials.setValue(node, material);
         records.runtime->visibility[i] = (flags[i] & native::visible) != 0;
     }
-    records.runtime->coloredNodes = nodeList(listOf<TDataStd_IntegerArray>(state, native::coloredNodes), count);
-    records.runtime->transparentNodes = nodeList(listOf<TDataStd_IntegerArray>(state, native::transparentNodes), count);
+    records.runtime->coloredNodes =
+        nodeList(listOf<TDataStd_IntegerArray>(state, native::coloredNodes), flags, native::isColored);
+    records.runtime->transparentNodes =
+        nodeList(listOf<TDataStd_IntegerArray>(state, native::transparentNodes), flags, native::isTransparent);
     return cameraOf(listOf<TDataStd_RealArray>(state, native::camera));
 }
 
