@@ -252,3 +252,16 @@ TEST_F(AddFeedTest, TheButtonSpeaksTheUsersLanguage)
         other->DestroyWindow();
     }
 }
+
+TEST_F(AddFeedTest, ThePictureStaysWhereItWasWhenTheFormWasMade)
+{
+    auto const atFirst = dataDirectory;
+    dataDirectory += "-elsewhere";
+    configure(L"en");
+    network.expect("/api/isFilePresent/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    EXPECT_TRUE(std::filesystem::exists(atFirst / "Cloud/image.jpeg"));
+    EXPECT_FALSE(std::filesystem::exists(dataDirectory / "Cloud/image.jpeg"));
+    std::filesystem::remove_all(atFirst);
+}
