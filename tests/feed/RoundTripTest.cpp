@@ -201,8 +201,10 @@ TEST(RoundTrip, LosesTheDegreeOfTransparencyTheColoursByPositionAndTheZoomAndNot
             expected.transparency = was.isTransparent ? 0.5F : 0.0F;
             EXPECT_EQ(other.scene.resources->materials.getValue(node), expected);
             int const index = first.scene.topology->transformOfNode.getValue(node);
-            EXPECT_EQ(other.scene.resources->transforms.getValue(index).matrix,
-                      first.scene.resources->transforms.getValue(index).matrix);
+            orvsg::Transform const placement = first.scene.resources->transforms.getValue(index);
+            orvsg::Transform const restored = other.scene.resources->transforms.getValue(index);
+            expectSameBits(restored.matrix, placement.matrix);
+            EXPECT_EQ(restored.isSet, placement.isSet);
         }
         FeedObjects const again = other.capture().comment.objects;
         EXPECT_EQ(again.colored, again.nodecolor.empty() ? std::vector<Vector3>() : captured.comment.objects.colored)
