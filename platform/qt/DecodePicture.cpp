@@ -39,7 +39,8 @@ QSize pictureSize(const QByteArray& bytes)
     // The headers of the other formats may tell less than comes.
     if (format != "jpeg" && format != "png" && format != "bmp")
         return decodePicture(bytes).size();
-    const QSize size = reader.size();
+    // A bitmap that is stored from the top has a negative height.
+    const QSize size(reader.size().width(), qAbs(reader.size().height()));
     if (size.isEmpty() || !isInBounds(size))
         return {0, 0};
     return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;

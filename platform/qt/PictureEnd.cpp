@@ -132,7 +132,8 @@ bool bmpBreaksOff(const QByteArray& bytes)
     if (packing != plain && packing != masked)
         return false; // how long packed lines are shows only when they are unpacked
     const qint64 line = (width * bits + 31) / 32 * 4;
-    return pixels + line * qAbs(height) > bytes.size();
+    const qint64 room = bytes.size() - pixels;
+    return room < 0 || (line > 0 && qAbs(height) > room / line); // the product may be beyond 64 bits
 }
 } // namespace
 

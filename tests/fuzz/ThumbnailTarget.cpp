@@ -29,10 +29,14 @@ void decodePixels(std::string const& file)
 {
     constexpr int longestSide = 16384;
     startToolkit();
-    QImage const image = orvplatform::decodePicture(QByteArray(file.data(), static_cast<qsizetype>(file.size())));
+    QByteArray const bytes(file.data(), static_cast<qsizetype>(file.size()));
+    QImage const image = orvplatform::decodePicture(bytes);
     check(image.width() <= longestSide && image.height() <= longestSide &&
               image.sizeInBytes() <= qsizetype{64} * 1024 * 1024,
           "a picture out of bounds is refused");
+    QSize const announced = orvplatform::pictureSize(bytes);
+    check(announced.width() <= longestSide && announced.height() <= longestSide, "and so is its header");
+    check(image.isNull() || announced == image.size(), "a picture is as large as it was said to be");
     // The last line is read whole, so that a short buffer shows.
     for (int x = 0; x < image.width(); ++x) {
         static_cast<void>(image.pixel(x, image.height() - 1));

@@ -188,6 +188,22 @@ TEST_F(Picture, IsRefusedWhenItsHeaderAsksForTooMuch)
     EXPECT_EQ(load(image, bytes), E_FAIL);
 }
 
+TEST_F(Picture, IsShownAlsoWhereABitmapIsStoredFromTheTop)
+{
+    // One pixel wide and two high, 24 bits each; the height is negative.
+    std::string bmp("BM\x3E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\x01\0\0\0\xFE\xFF\xFF\xFF\x01\0\x18\0", 30);
+    bmp.append(24, '\0').append(8, '\x40');
+    CImage image;
+    ASSERT_EQ(load(image, bmp), S_OK);
+    EXPECT_EQ(image.GetWidth(), 1);
+    EXPECT_EQ(image.GetHeight(), 2);
+    EXPECT_EQ(orvplatform::pixmapOf(static_cast<HBITMAP>(image)).size(), QSize(1, 2));
+    // Lines and heights whose product no number holds.
+    bmp.replace(18, 8, "\xFF\xFF\xFF\x7F\xFF\xFF\xFF\x7F");
+    bmp.replace(28, 2, "\xFF\xFF");
+    EXPECT_EQ(load(image, bmp), E_FAIL);
+}
+
 TEST_F(Picture, IsRefusedWhenItIsLargerThanItsHeaderSays)
 {
     // The reader says 2 by 2 pixels and makes a picture 16386 pixels high. Found by fuzzing.
