@@ -3,9 +3,12 @@
 #include "platform/text/Text.h"
 #include "service/JsonText.h"
 
-#include <algorithm>
-#include <climits>
 #include <cstdlib>
+#include <limits>
+#include <string>
+
+// The format as a table: one line a member, in the order in which a reader takes them. The documents are only looked
+// at; what a reader that creates missing members would say of a wrong kind is said here in words.
 
 namespace orvfuzz
 {
@@ -13,105 +16,139 @@ namespace orvfuzz
 namespace
 {
 
-/// A value as UTF-8 text. A record's texts end at their first NUL.
-std::string narrowTextOf(Json::Value const& value)
-{
-    return value.asString().c_str();
-}
+Json::Value const absent;
 
-std::wstring textOf(Json::Value const& value)
+/// The members of a value; null and an absent one have none.
+Json::Value const& memberOf(Json::Value const& value, std::string const& name)
 {
-    return orvtext::fromUtf8(narrowTextOf(value));
-}
-
-float floatOf(Json::Value const& value)
-{
-    return static_cast<float>(value.asDouble());
-}
-
-// The element access below is the non-const one on purpose: it creates what is missing as null, and null reads as zero.
-Vector3 vectorOf(Json::Value& value)
-{
-    return Vector3(floatOf(value[0U]), floatOf(value[1U]), floatOf(value[2U]));
-}
-
-Matrix4 matrixOf(Json::Value& value)
-{
-    Matrix4 matrix;
-    for (unsigned char i = 0; i < 16; ++i) {
-        matrix[i] = floatOf(value[static_cast<Json::ArrayIndex>(i)]);
+    if (value.isNull()) {
+        return absent;
     }
-    return matrix;
-}
-
-std::vector<int> nodesOf(Json::Value& value)
-{
-    std::vector<int> nodes;
-    for (Json::ArrayIndex i = 0; i < value.size(); ++i) {
-        nodes.push_back(value[i].asInt());
+    if (!value.isObject()) {
+        throw Json::LogicError("in Json::Value::resolveReference(key, end): requires objectValue");
     }
-    return nodes;
+    return value.isMember(name) ? value[name] : absent;
 }
 
-/// The number at the start of a key, 0 without one, held to the range of int.
-int nodeOf(std::string const& key)
+/// The elements of a value; null has none.
+Json::Value const& elementOf(Json::Value const& value, Json::ArrayIndex index)
 {
-    long const number = std::strtol(key.c_str(), nullptr, 10);
-    return static_cast<int>(std::clamp<long>(number, INT_MIN, INT_MAX));
-}
-
-FeedViewport viewportOf(Json::Value& value)
-{
-    Vector3 const eye = vectorOf(value["eye"]);
-    Vector3 const target = vectorOf(value["target"]);
-    Vector3 const up = vectorOf(value["up"]);
-    return FeedViewport(eye, target, up, value["zoom"].asDouble());
-}
-
-FeedObjects objectsOf(Json::Value& value)
-{
-    FeedObjects objects;
-    Json::Value& colored = value["colored"];
-    for (Json::ArrayIndex i = 0; i < colored.size(); ++i) {
-        objects.colored.push_back(vectorOf(colored[i]));
+    if (value.isNull()) {
+        return absent;
     }
-    objects.transparent = nodesOf(value["transparent"]);
-    objects.hidden = nodesOf(value["hidden"]);
-    // Members come in the byte order of their keys; of two keys with one number the first counts.
-    Json::Value& colors = value["nodecolor"];
-    for (auto member = colors.begin(); member != colors.end(); ++member) {
-        objects.nodecolor.emplace(nodeOf(member.name()), member->asInt());
+    if (!value.isArray()) {
+        throw Json::LogicError("in Json::Value::operator[](ArrayIndex): requires arrayValue");
     }
-    Json::Value& transforms = value["nodetransform"];
-    for (auto member = transforms.begin(); member != transforms.end(); ++member) {
-        objects.nodetransform.emplace(nodeOf(member.name()), matrixOf(*member));
-    }
-    return objects;
+    return value.isValidIndex(index) ? value[index] : absent;
 }
 
-Feed recordOf(Json::Value& document)
+std::string bytesOf(Json::Value const& value)
 {
-    Feed feed;
-    Json::Value& author = document["author"];
-    feed.author = FeedAuthor(textOf(author["id"]), textOf(author["name"]), textOf(author["email"]),
-                             author["canDelete"].asBool(), author["canEdit"].asBool());
-    Json::Value& file = document["file"];
-    feed.file = FeedFile(textOf(file["id"]), textOf(file["name"]));
-    Json::Value& action = document["action"];
-    feed.action = FeedAction(textOf(action["type"]), textOf(action["value"]));
+    std::string const text = value.asString();
+    return text.substr(0, text.find('\0'));
+}
 
-    Json::Value& comment = document["commentcontent"];
-    feed.comment.viewport = viewportOf(comment["viewport"]);
-    feed.comment.objects = objectsOf(comment["objects"]);
-    feed.comment.id = textOf(comment["id"]);
-    feed.comment.commentType = textOf(comment["commentType"]);
-    feed.comment.content = textOf(comment["content"]);
-    feed.comment.publishedTime = textOf(comment["publishedTime"]);
-    feed.comment.updatedTime = textOf(comment["updatedTime"]);
+void read(Json::Value const& value, std::wstring& text)
+{
+    text = orvtext::fromUtf8(bytesOf(value));
+}
 
-    feed.source = textOf(document["source"]);
-    feed.thumbnail = textOf(document["thumbnail"]);
-    return feed;
+void read(Json::Value const& value, bool& flag)
+{
+    flag = value.asBool();
+}
+
+void read(Json::Value const& value, int& number)
+{
+    number = value.asInt();
+}
+
+void read(Json::Value const& value, double& number)
+{
+    number = value.asDouble();
+}
+
+template <std::size_t N>
+void read(Json::Value const& value, orvmath::Tuple<float, N>& numbers)
+{
+    for (unsigned char i = 0; i < N; ++i) {
+        numbers[i] = static_cast<float>(elementOf(value, i).asDouble());
+    }
+}
+
+template <class Item>
+void read(Json::Value const& value, std::vector<Item>& list)
+{
+    for (Json::ArrayIndex i = 0; i != value.size(); ++i) {
+        Item item{};
+        read(elementOf(value, i), item);
+        list.push_back(item);
+    }
+}
+
+template <class Item>
+void read(Json::Value const& value, std::map<int, Item>& items)
+{
+    constexpr long long least = std::numeric_limits<int>::min();
+    constexpr long long most = std::numeric_limits<int>::max();
+    for (auto each = value.begin(); each != value.end(); ++each) {
+        long long const key = std::strtoll(each.name().c_str(), nullptr, 10);
+        Item item{};
+        read(*each, item);
+        items.insert({static_cast<int>(key < least ? least : key > most ? most : key), item});
+    }
+}
+
+/// Reads what stands at the path "group.group.name" below the document into the field.
+struct Member {
+    char const* path;
+    void (*take)(Json::Value const& value, Feed& feed);
+};
+
+#define MEMBER(path, field)                                                                                            \
+    Member                                                                                                             \
+    {                                                                                                                  \
+        path, [](Json::Value const& value, Feed& feed) { read(value, feed.field); }                                    \
+    }
+
+constexpr Member members[] = {
+    MEMBER("author.id", author.id),
+    MEMBER("author.name", author.name),
+    MEMBER("author.email", author.email),
+    MEMBER("author.canDelete", author.canDelete),
+    MEMBER("author.canEdit", author.canEdit),
+    MEMBER("file.id", file.id),
+    MEMBER("file.name", file.name),
+    MEMBER("action.type", action.type),
+    MEMBER("action.value", action.value),
+    MEMBER("commentcontent.viewport.eye", comment.viewport.eye),
+    MEMBER("commentcontent.viewport.target", comment.viewport.target),
+    MEMBER("commentcontent.viewport.up", comment.viewport.up),
+    MEMBER("commentcontent.viewport.zoom", comment.viewport.zoom),
+    MEMBER("commentcontent.objects.colored", comment.objects.colored),
+    MEMBER("commentcontent.objects.transparent", comment.objects.transparent),
+    MEMBER("commentcontent.objects.hidden", comment.objects.hidden),
+    MEMBER("commentcontent.objects.nodecolor", comment.objects.nodecolor),
+    MEMBER("commentcontent.objects.nodetransform", comment.objects.nodetransform),
+    MEMBER("commentcontent.id", comment.id),
+    MEMBER("commentcontent.commentType", comment.commentType),
+    MEMBER("commentcontent.content", comment.content),
+    MEMBER("commentcontent.publishedTime", comment.publishedTime),
+    MEMBER("commentcontent.updatedTime", comment.updatedTime),
+    MEMBER("source", source),
+    MEMBER("thumbnail", thumbnail),
+};
+
+#undef MEMBER
+
+Json::Value const& valueAt(Json::Value const& document, std::string path)
+{
+    Json::Value const* value = &document;
+    for (std::size_t dot = path.find('.'); dot != std::string::npos; dot = path.find('.')) {
+        value = &memberOf(*value, path.substr(0, dot));
+        path.erase(0, dot + 1);
+    }
+    return memberOf(*value, path);
 }
 
 } // namespace
@@ -120,19 +157,23 @@ std::vector<Feed> referenceRead(std::wstring const& response)
 {
     std::vector<Feed> feeds;
     Json::Value root;
-    if (!parseJson(orvtext::toUtf8(response), root) || root.size() == 0) {
+    if (!parseJson(orvtext::toUtf8(response), root)) {
         return feeds;
     }
-    for (Json::ArrayIndex i = 0; i < root.size(); ++i) {
+    for (Json::ArrayIndex i = 0; i != root.size(); ++i) {
+        Json::Value const& element = elementOf(root, i);
         Json::Value document;
-        if (!parseJson(narrowTextOf(root[i]["Content"]), document)) {
+        if (!parseJson(bytesOf(memberOf(element, "Content")), document)) {
             continue;
         }
-        Feed feed = recordOf(document);
-        if (feed.thumbnail.empty()) {
-            feed.thumbnail = textOf(root[i]["Thumbnail"]);
+        Feed feed;
+        for (Member const& member : members) {
+            member.take(valueAt(document, member.path), feed);
         }
-        feeds.push_back(std::move(feed));
+        if (feed.thumbnail.empty()) {
+            read(memberOf(element, "Thumbnail"), feed.thumbnail);
+        }
+        feeds.push_back(feed);
     }
     return feeds;
 }
