@@ -36,7 +36,7 @@ public:
         back.setArrowType(Qt::LeftArrow);
         back.setAccessibleName(QObject::tr("Show the panels before"));
         forth.setArrowType(Qt::RightArrow);
-        forth.setAccessibleName(QObject::tr("Show the panels behind"));
+        forth.setAccessibleName(QObject::tr("Show the panels after"));
         connect(&back, &QToolButton::clicked, this, [this] { scrollTo(offset - step); });
         connect(&forth, &QToolButton::clicked, this, [this] { scrollTo(offset + step); });
         connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {

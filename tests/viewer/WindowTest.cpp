@@ -9,11 +9,17 @@
 #include "viewer/app/RecentFiles.h"
 #include "viewer/commands/CommandId.h"
 #include "viewer/commands/PartCommands.h"
+#include "viewer/plugins/PluginHost.h"
+#include "viewer/plugins/SideBar.h"
 
+#include <QDir>
+#include <QImage>
+#include <QScreen>
 #include <QTest>
 
 #include <cmath>
 #include <cstring>
+#include <set>
 #include <vector>
 
 using namespace orvtest;
@@ -155,4 +161,39 @@ TEST_F(WindowTest, ResizingAndClosingAreSurvived)
     session->runCommand(orvviewer::fitAll);
     session.reset();
     openCubes();
+}
+
+TEST_F(WindowTest, ShowsTheModelAndThePluginInEachLanguage)
+{
+    installCloudPlugin();
+    std::set<QByteArray> corners;
+    for (wchar_t const* const code : {L"en", L"de", L"fr", L"es", L"ja", L"ko", L"zh"}) {
+        SCOPED_TRACE(orvtext::toUtf8(code));
+        session.reset();
+        orvhost::Settings settings;
+        settings.dataDirectory = (folder.path / "data").wstring();
+        settings.libraryDirectory = (folder.path / "lib").wstring();
+        settings.language = code;
+        session = std::make_unique<orvviewer::ViewerSession>(settings);
+        auto& window = session->window();
+        window.resize(1280, 760);
+        window.move(0, 0);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_TRUE(session->openModel(sampleModel().wstring())) << status();
+        orvplatform::testing::processEvents();
+        EXPECT_EQ(session->plugins().count(), 1U) << status();
+        EXPECT_EQ(session->sideBar().paneCount(), 1);
+        view().redrawNow();
+        orvplatform::testing::processEvents();
+        auto const shown = window.screen()->grabWindow(0, 0, 0, window.width(), window.height()).toImage();
+        // To be looked at, in pictures/ of the build.
+        ASSERT_TRUE(QDir().mkpath(QStringLiteral(ORV_BINARY_DIR "/pictures")));
+        EXPECT_TRUE(shown.save(QStringLiteral(ORV_BINARY_DIR "/pictures/viewer-with-model-") +
+                               QString::fromWCharArray(code) + ".png"));
+        auto const corner = view().mapTo(&window, QPoint(view().width() - 144, 0));
+        auto const cube = shown.copy(QRect(corner, QSize(144, 144))).convertToFormat(QImage::Format_RGB32);
+        corners.emplace(reinterpret_cast<char const*>(cube.constBits()), cube.sizeInBytes());
+    }
+    EXPECT_EQ(corners.size(), 7U) << "the view cube's sides have names in the language";
 }

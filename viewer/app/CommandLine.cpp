@@ -105,7 +105,8 @@ std::wstring systemLanguage()
     for (char const* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
         char const* const value = std::getenv(name);
         if (value != nullptr && *value != '\0') {
-            auto const code = orvtext::fromUtf8(std::string_view(value).substr(0, 2));
+            std::string_view const locale(value);
+            auto const code = orvtext::fromUtf8(locale.substr(0, locale.find_first_of("_.@")));
             return isLanguage(code) ? code : L"en";
         }
     }

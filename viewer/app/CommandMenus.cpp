@@ -1,5 +1,7 @@
 #include "viewer/app/CommandMenus.h"
 
+#include "viewer/app/Language.h"
+
 #include <QColorDialog>
 #include <QFileInfo>
 #include <QPainter>
@@ -19,16 +21,16 @@ struct NamedColour {
     char const* name;
     QRgb value;
 };
-constexpr std::array<NamedColour, 10> palette{{{"Red", 0xFFD64545},
-                                               {"Orange", 0xFFE8852E},
-                                               {"Yellow", 0xFFE9C53A},
-                                               {"Green", 0xFF4FA35A},
-                                               {"Teal", 0xFF3FA7A0},
-                                               {"Blue", 0xFF3B78D8},
-                                               {"Violet", 0xFF8458C9},
-                                               {"Pink", 0xFFD6679F},
-                                               {"White", 0xFFF2F2F2},
-                                               {"Dark grey", 0xFF55595E}}};
+constexpr std::array<NamedColour, 10> palette{{{QT_TRANSLATE_NOOP("Orvanta", "Red"), 0xFFD64545},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Orange"), 0xFFE8852E},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Yellow"), 0xFFE9C53A},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Green"), 0xFF4FA35A},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Teal"), 0xFF3FA7A0},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Blue"), 0xFF3B78D8},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Violet"), 0xFF8458C9},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Pink"), 0xFFD6679F},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "White"), 0xFFF2F2F2},
+                                               {QT_TRANSLATE_NOOP("Orvanta", "Dark grey"), 0xFF55595E}}};
 
 unsigned long packed(QColor const& colour)
 {
@@ -74,7 +76,7 @@ QMenu* makeColourMenu(QWidget* parent, std::function<void(unsigned long)> choose
     auto* menu = makeMenu(parent);
     for (auto const& entry : palette) {
         QColor const colour(entry.value);
-        menu->addAction(swatch(colour), QObject::tr(entry.name), [choose, colour] { choose(packed(colour)); });
+        menu->addAction(swatch(colour), localized(entry.name), [choose, colour] { choose(packed(colour)); });
     }
     menu->addSeparator();
     menu->addAction(QObject::tr("&Other colour..."), [parent, choose] {
@@ -116,7 +118,7 @@ QMenu* makeRecentMenu(QWidget* parent, RecentFiles const& files, std::function<v
             action->setToolTip(file.filePath());
         }
         if (menu->isEmpty()) {
-            menu->addAction(QObject::tr("No model was opened yet"))->setEnabled(false);
+            menu->addAction(QObject::tr("No model has been opened yet"))->setEnabled(false);
         }
     });
     return menu;

@@ -21,13 +21,15 @@ std::vector<Language> const& languages();
 /// system's. Both may be empty; a code that isn't among the eight counts as English.
 std::wstring chooseLanguage(std::wstring const& asked, std::wstring const& preferred);
 
-/// Gives the viewer's texts in the language from now on; windows that stand keep theirs. English needs nothing.
+/// Gives the viewer's texts and numbers in the language from now on; windows that stand keep theirs. English has plural
+/// forms alone.
 void useViewerLanguage(std::wstring const& code);
 
 /// A text of the viewer in its language; where the translation lacks it, as it is.
 QString localized(char const* text);
 
-/// A whole English sentence in the viewer's language. Names stand in it between quotation marks, and as "%1" and "%2" in
+/// A whole English sentence in the viewer's language. At most two names stand in it between
+/// quotation marks, which they may hold themselves, and as "%1" and "%2" in
 /// the translations. A sentence that isn't known stays as it is.
 std::wstring localizedSentence(std::wstring const& sentence);
 

@@ -98,7 +98,7 @@ void ViewerSession::State::addCommands()
                  hasModel,
                  {}});
     add(zoomOut, {tr("Zoom out"),
-                  tr("Take the model away"),
+                  tr("Move the model away"),
                   "zoom-out",
                   QKeySequence::ZoomOut,
                   [this] { zoomView(*this, zoomStep); },
@@ -256,7 +256,8 @@ void ViewerSession::State::addCommands()
 
 void ViewerSession::State::askForModel()
 {
-    auto const filter = L"Models|" + patterns(readableExtensions()) + L"|STEP|*.step;*.stp;*.p21|IGES|*.iges;*.igs|" +
+    auto const filter = QObject::tr("Models").toStdWString() + L"|" + patterns(readableExtensions()) +
+                        L"|STEP|*.step;*.stp;*.p21|IGES|*.iges;*.igs|" +
                         L"BREP|*.brep;*.brp|STL|*.stl|OBJ|*.obj|glTF|*.gltf;*.glb|Orvanta|*.orvanta||";
     CFileDialog dialog(TRUE, nullptr, nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, filter.c_str());
     if (dialog.DoModal() == IDOK) {
@@ -303,7 +304,7 @@ void ViewerSession::State::startMove()
     auto const topology = orv::recordOf<orvsg::SCSceneTopo>(openDocument);
     auto const what = selectedNodes.size() == 1
                           ? QString::fromStdWString(topology->nodes.getValue(*selectedNodes.begin()).name)
-                          : QObject::tr("%1 parts").arg(selectedNodes.size());
+                          : QObject::tr("%Ln part(s)", nullptr, static_cast<int>(selectedNodes.size()));
     auto const renderer = orv::recordOf<orvgl::SCRenderer>(openDocument);
     // An arrow moves by a round fraction of the model's size.
     double const step = std::pow(10.0, std::floor(std::log10(std::max(renderer->camera->radius, 0.01F) / 5.0)));

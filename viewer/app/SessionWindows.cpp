@@ -14,8 +14,6 @@
 #include "viewer/commands/ViewCommands.h"
 #include "viewer/scene/SceneDisplay.h"
 
-#include <QLocale>
-
 namespace orvviewer
 {
 
@@ -187,12 +185,12 @@ void ViewerSession::State::showFacts()
                 static_cast<qsizetype>(resources->meshes[static_cast<std::size_t>(node.mesh)]->triangles.size()) / 3;
         }
     }
-    QLocale const locale;
-    auto text = QObject::tr("%1 parts   %2 triangles").arg(locale.toString(parts), locale.toString(triangles));
+    auto text = QObject::tr("%Ln part(s)", nullptr, static_cast<int>(parts)) + "   " +
+                QObject::tr("%Ln triangle(s)", nullptr, static_cast<int>(triangles));
     if (selectedNodes.size() == 1) {
         text += "   " + QString::fromStdWString(topology->nodes.getValue(*selectedNodes.begin()).name);
     } else if (!selectedNodes.empty()) {
-        text += "   " + QObject::tr("%1 selected").arg(selectedNodes.size());
+        text += "   " + QObject::tr("%Ln selected", nullptr, static_cast<int>(selectedNodes.size()));
     }
     window->status().showFacts(text);
 }

@@ -40,8 +40,8 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
-        <translation>Noch kein Modell wurde geöffnet</translation>
+        <source>No model has been opened yet</source>
+        <translation>Es wurde noch kein Modell geöffnet</translation>
     </message>
     <message>
         <source>Open a model</source>
@@ -128,7 +128,7 @@
         <translation>Verkleinern</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>Das Modell weiter weg rücken</translation>
     </message>
     <message>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Undo all hiding, colouring, transparency and moving</source>
-        <translation>Alles Ausblenden, Einfärben, Durchsichtigmachen und Verschieben rückgängig machen</translation>
+        <translation>Ausblendungen, Farben, Transparenz und Verschiebungen zurücksetzen</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -300,10 +300,6 @@
         <translation>Vom Modellbaum zur Ansicht gehen und zurück</translation>
     </message>
     <message>
-        <source>%1 parts</source>
-        <translation>%1 Teile</translation>
-    </message>
-    <message>
         <source> mm</source>
         <translation> mm</translation>
     </message>
@@ -328,14 +324,6 @@
         <translation>Kein Modell</translation>
     </message>
     <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>%1 Teile   %2 Dreiecke</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>%1 ausgewählt</translation>
-    </message>
-    <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
         <translation>Dieser Bereich steht in einem eigenen Fenster. Schließen Sie es, um ihn zurückzuholen.</translation>
     </message>
@@ -356,7 +344,7 @@
         <translation>Die vorherigen Gruppen zeigen</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>Die folgenden Gruppen zeigen</translation>
     </message>
     <message>
@@ -401,7 +389,7 @@
     </message>
     <message>
         <source>No exporter is installed. Install Orvanta again and start it anew.</source>
-        <translation>Es ist kein Exportmodul installiert. Installieren Sie Orvanta erneut und starten Sie es neu.</translation>
+        <translation>Es ist kein Exportmodul installiert. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
     </message>
     <message>
         <source>The action was broken off by an unexpected error. Try again.</source>
@@ -433,7 +421,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; is of a type that can&apos;t be opened. Open STEP, IGES, BREP, STL, OBJ, glTF or Orvanta files.</source>
-        <translation>„%1“ ist von einer Art, die nicht geöffnet werden kann. Öffnen Sie STEP-, IGES-, BREP-, STL-, OBJ-, glTF- oder Orvanta-Dateien.</translation>
+        <translation>„%1“ hat einen Dateityp, der nicht geöffnet werden kann. Öffnen Sie STEP-, IGES-, BREP-, STL-, OBJ-, glTF- oder Orvanta-Dateien.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be read. Check that you may read it and that it isn&apos;t in use.</source>
@@ -521,11 +509,11 @@
     </message>
     <message>
         <source>The library &quot;%1&quot; is missing. Install Orvanta again and start it anew.</source>
-        <translation>Die Bibliothek „%1“ fehlt. Installieren Sie Orvanta erneut und starten Sie es neu.</translation>
+        <translation>Die Bibliothek „%1“ fehlt. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; lacks the function &quot;%2&quot;. Install Orvanta again and start it anew.</source>
-        <translation>Der Bibliothek „%1“ fehlt die Funktion „%2“. Installieren Sie Orvanta erneut und starten Sie es neu.</translation>
+        <translation>Der Bibliothek „%1“ fehlt die Funktion „%2“. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; made no plug-in. The viewer works on without it; install the plug-in again to get it back.</source>
@@ -538,6 +526,107 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>Es gibt keinen Bildschirm zum Zeichnen. Starten Sie das Programm aus einer Desktopsitzung.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Blaugrün</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Dunkelgrau</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>Modelle</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>Die Bibliothek „%1“ kann nicht geladen werden: „%2“. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>Die Bibliothek „%1“ konnte nicht gestartet werden: „%2“. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>Die Bibliothek „%1“ konnte nicht gestartet werden. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>Die Bibliothek „%1“ wurde nicht richtig beendet: „%2“. Speichern Sie Ihre Arbeit, und starten Sie Orvanta neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>Die Bibliothek „%1“ wurde nicht richtig beendet. Speichern Sie Ihre Arbeit, und starten Sie Orvanta neu.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>Die Bibliothek „%1“ ist kein Zusatzmodul für die Fenster des Programms. Nehmen Sie sie aus dem Ordner „%2“.</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>Das Bild kann auf diesem Bildschirm nicht gezeichnet werden. Prüfen Sie den Grafiktreiber.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>Das Bild „%1“ kann nicht geschrieben werden. Prüfen Sie den Ordner und ob der Name auf .png oder .jpg endet.</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>Es gibt keinen Bildschirm zum Zeichnen. Installieren Sie „%1“, oder starten Sie das Programm aus einer Desktopsitzung.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>%Ln Teil</numerusform>
+            <numerusform>%Ln Teile</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>%Ln Dreieck</numerusform>
+            <numerusform>%Ln Dreiecke</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln ausgewählt</numerusform>
+            <numerusform>%Ln ausgewählt</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

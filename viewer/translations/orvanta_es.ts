@@ -40,7 +40,7 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
+        <source>No model has been opened yet</source>
         <translation>Aún no se ha abierto ningún modelo</translation>
     </message>
     <message>
@@ -128,7 +128,7 @@
         <translation>Alejar</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>Alejar el modelo</translation>
     </message>
     <message>
@@ -249,7 +249,7 @@
     </message>
     <message>
         <source>Undo all hiding, colouring, transparency and moving</source>
-        <translation>Deshacer todo lo oculto, coloreado, transparente y movido</translation>
+        <translation>Deshacer todas las ocultaciones, colores, transparencias y desplazamientos</translation>
     </message>
     <message>
         <source>Select all</source>
@@ -300,10 +300,6 @@
         <translation>Pasar del árbol del modelo a la vista y viceversa</translation>
     </message>
     <message>
-        <source>%1 parts</source>
-        <translation>%1 piezas</translation>
-    </message>
-    <message>
         <source> mm</source>
         <translation> mm</translation>
     </message>
@@ -328,14 +324,6 @@
         <translation>Ningún modelo</translation>
     </message>
     <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>%1 piezas   %2 triángulos</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>%1 seleccionadas</translation>
-    </message>
-    <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
         <translation>Este panel se muestra en su propia ventana. Ciérrela para traerlo de vuelta.</translation>
     </message>
@@ -356,7 +344,7 @@
         <translation>Mostrar los grupos anteriores</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>Mostrar los grupos siguientes</translation>
     </message>
     <message>
@@ -538,6 +526,107 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>No hay pantalla en la que dibujar. Inicie el visor desde una sesión de escritorio.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rojo</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Naranja</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarillo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Verde azulado</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violeta</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanco</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Gris oscuro</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>Modelos</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>No se puede cargar la biblioteca &quot;%1&quot;: &quot;%2&quot;. Vuelva a instalar Orvanta e inícielo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>No se pudo iniciar la biblioteca &quot;%1&quot;: &quot;%2&quot;. Vuelva a instalar Orvanta e inícielo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>No se pudo iniciar la biblioteca &quot;%1&quot;. Vuelva a instalar Orvanta e inícielo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>La biblioteca &quot;%1&quot; no terminó correctamente: &quot;%2&quot;. Guarde su trabajo y reinicie Orvanta.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>La biblioteca &quot;%1&quot; no terminó correctamente. Guarde su trabajo y reinicie Orvanta.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>La biblioteca &quot;%1&quot; no es un complemento para las ventanas del visor. Sáquela de la carpeta &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>No se puede dibujar la imagen en esta pantalla. Compruebe el controlador gráfico.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>No se puede escribir la imagen &quot;%1&quot;. Compruebe la carpeta y que el nombre termine en .png o .jpg.</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>No hay pantalla en la que dibujar. Instale &quot;%1&quot; o inicie el visor desde una sesión de escritorio.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>%Ln pieza</numerusform>
+            <numerusform>%Ln piezas</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>%Ln triángulo</numerusform>
+            <numerusform>%Ln triángulos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln seleccionada</numerusform>
+            <numerusform>%Ln seleccionadas</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -37,10 +37,10 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
+        <source>No model has been opened yet</source>
         <translation>Aucun modèle n&apos;a encore été ouvert</translation>
     </message>
     <message>
@@ -128,7 +128,7 @@
         <translation>Zoom arrière</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>Éloigner le modèle</translation>
     </message>
     <message>
@@ -300,10 +300,6 @@
         <translation>Passer de l&apos;arbre du modèle à la vue et inversement</translation>
     </message>
     <message>
-        <source>%1 parts</source>
-        <translation>%1 pièces</translation>
-    </message>
-    <message>
         <source> mm</source>
         <translation> mm</translation>
     </message>
@@ -317,7 +313,7 @@
     </message>
     <message>
         <source>The model can&apos;t be drawn: there is no display with OpenGL.</source>
-        <translation>Le modèle ne peut pas être affiché : aucun écran ne prend en charge OpenGL.</translation>
+        <translation>Le modèle ne peut pas être affiché : aucun écran ne prend en charge OpenGL.</translation>
     </message>
     <message>
         <source>Find a part</source>
@@ -326,14 +322,6 @@
     <message>
         <source>No model</source>
         <translation>Aucun modèle</translation>
-    </message>
-    <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>%1 pièces   %2 triangles</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>%1 sélectionnées</translation>
     </message>
     <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
@@ -356,7 +344,7 @@
         <translation>Afficher les groupes précédents</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>Afficher les groupes suivants</translation>
     </message>
     <message>
@@ -393,7 +381,7 @@
     </message>
     <message>
         <source>The picture can&apos;t be drawn: there is no display with OpenGL.</source>
-        <translation>L&apos;image ne peut pas être créée : aucun écran ne prend en charge OpenGL.</translation>
+        <translation>L&apos;image ne peut pas être créée : aucun écran ne prend en charge OpenGL.</translation>
     </message>
     <message>
         <source>There is nothing to draw. Open a model first.</source>
@@ -409,7 +397,7 @@
     </message>
     <message>
         <source>Opening &quot;%1&quot;... Press Esc to stop.</source>
-        <translation>Ouverture de « %1 »... Appuyez sur Échap pour arrêter.</translation>
+        <translation>Ouverture de « %1 »... Appuyez sur Échap pour arrêter.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -425,95 +413,95 @@
     </message>
     <message>
         <source>&quot;%1&quot; doesn&apos;t exist. Check the path or choose another file.</source>
-        <translation>« %1 » n&apos;existe pas. Vérifiez le chemin ou choisissez un autre fichier.</translation>
+        <translation>« %1 » n&apos;existe pas. Vérifiez le chemin ou choisissez un autre fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a folder. Choose a model file in it.</source>
-        <translation>« %1 » est un dossier. Choisissez un fichier de modèle qui s&apos;y trouve.</translation>
+        <translation>« %1 » est un dossier. Choisissez un fichier de modèle qui s&apos;y trouve.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is of a type that can&apos;t be opened. Open STEP, IGES, BREP, STL, OBJ, glTF or Orvanta files.</source>
-        <translation>« %1 » est d&apos;un type qui ne peut pas être ouvert. Ouvrez des fichiers STEP, IGES, BREP, STL, OBJ, glTF ou Orvanta.</translation>
+        <translation>« %1 » est d&apos;un type qui ne peut pas être ouvert. Ouvrez des fichiers STEP, IGES, BREP, STL, OBJ, glTF ou Orvanta.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be read. Check that you may read it and that it isn&apos;t in use.</source>
-        <translation>« %1 » ne peut pas être lu. Vérifiez que vous y avez accès et qu&apos;il n&apos;est pas utilisé.</translation>
+        <translation>« %1 » ne peut pas être lu. Vérifiez que vous y avez accès et qu&apos;il n&apos;est pas utilisé.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is empty. Export the model again and open the new file.</source>
-        <translation>« %1 » est vide. Exportez à nouveau le modèle et ouvrez le nouveau fichier.</translation>
+        <translation>« %1 » est vide. Exportez à nouveau le modèle et ouvrez le nouveau fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; ends too early: a part of it is missing. Copy or export the file again.</source>
-        <translation>« %1 » se termine trop tôt : il en manque une partie. Copiez ou exportez à nouveau le fichier.</translation>
+        <translation>« %1 » se termine trop tôt : il en manque une partie. Copiez ou exportez à nouveau le fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; isn&apos;t what its ending says. Check the file, or export the model again.</source>
-        <translation>« %1 » n&apos;est pas ce qu&apos;indique son extension. Vérifiez le fichier ou exportez à nouveau le modèle.</translation>
+        <translation>« %1 » n&apos;est pas ce qu&apos;indique son extension. Vérifiez le fichier ou exportez à nouveau le modèle.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be read: its content is damaged. Export the model again and open the new file.</source>
-        <translation>« %1 » ne peut pas être lu : son contenu est endommagé. Exportez à nouveau le modèle et ouvrez le nouveau fichier.</translation>
+        <translation>« %1 » ne peut pas être lu : son contenu est endommagé. Exportez à nouveau le modèle et ouvrez le nouveau fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; isn&apos;t whole: entries that others refer to are missing. Copy or export the file again.</source>
-        <translation>« %1 » est incomplet : des entrées auxquelles d&apos;autres font référence manquent. Copiez ou exportez à nouveau le fichier.</translation>
+        <translation>« %1 » est incomplet : des entrées auxquelles d&apos;autres font référence manquent. Copiez ou exportez à nouveau le fichier.</translation>
     </message>
     <message>
         <source>Opening &quot;%1&quot; was stopped.</source>
-        <translation>L&apos;ouverture de « %1 » a été arrêtée.</translation>
+        <translation>L&apos;ouverture de « %1 » a été arrêtée.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; holds no part with surfaces. Export the model with its solids and open the new file.</source>
-        <translation>« %1 » ne contient aucune pièce avec des surfaces. Exportez le modèle avec ses solides et ouvrez le nouveau fichier.</translation>
+        <translation>« %1 » ne contient aucune pièce avec des surfaces. Exportez le modèle avec ses solides et ouvrez le nouveau fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; needs more memory than there is. Close other programs and try again.</source>
-        <translation>« %1 » nécessite plus de mémoire qu&apos;il n&apos;y en a. Fermez d&apos;autres programmes et réessayez.</translation>
+        <translation>« %1 » nécessite plus de mémoire qu&apos;il n&apos;y en a. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be opened. Check the file and try again.</source>
-        <translation>« %1 » ne peut pas être ouvert. Vérifiez le fichier et réessayez.</translation>
+        <translation>« %1 » ne peut pas être ouvert. Vérifiez le fichier et réessayez.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is open.</source>
-        <translation>« %1 » est ouvert.</translation>
+        <translation>« %1 » est ouvert.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; was saved.</source>
-        <translation>« %1 » a été enregistré.</translation>
+        <translation>« %1 » a été enregistré.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: it is a folder. Choose a name for the file.</source>
-        <translation>Impossible d&apos;écrire « %1 » : c&apos;est un dossier. Choisissez un nom de fichier.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : c&apos;est un dossier. Choisissez un nom de fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: its folder doesn&apos;t exist. Choose another folder.</source>
-        <translation>Impossible d&apos;écrire « %1 » : son dossier n&apos;existe pas. Choisissez un autre dossier.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : son dossier n&apos;existe pas. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: it is protected against writing. Choose another name.</source>
-        <translation>Impossible d&apos;écrire « %1 » : il est protégé en écriture. Choisissez un autre nom.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : il est protégé en écriture. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: you may not write to its folder. Choose another folder.</source>
-        <translation>Impossible d&apos;écrire « %1 » : vous n&apos;avez pas le droit d&apos;écrire dans son dossier. Choisissez un autre dossier.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : vous n&apos;avez pas le droit d&apos;écrire dans son dossier. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: the disk is full. Make room, or choose another disk.</source>
-        <translation>Impossible d&apos;écrire « %1 » : le disque est plein. Libérez de la place ou choisissez un autre disque.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : le disque est plein. Libérez de la place ou choisissez un autre disque.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
-        <translation>Impossible d&apos;écrire « %1 ». Vérifiez le dossier et l&apos;espace libre, ou choisissez un autre emplacement.</translation>
+        <translation>Impossible d&apos;écrire « %1 ». Vérifiez le dossier et l&apos;espace libre, ou choisissez un autre emplacement.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and that the name ends in .png or .jpg.</source>
-        <translation>Impossible d&apos;écrire « %1 ». Vérifiez le dossier et que le nom se termine par .png ou .jpg.</translation>
+        <translation>Impossible d&apos;écrire « %1 ». Vérifiez le dossier et que le nom se termine par .png ou .jpg.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be saved: its exporter isn&apos;t installed. Choose another format.</source>
-        <translation>Impossible d&apos;enregistrer « %1 » : son module d&apos;exportation n&apos;est pas installé. Choisissez un autre format.</translation>
+        <translation>Impossible d&apos;enregistrer « %1 » : son module d&apos;exportation n&apos;est pas installé. Choisissez un autre format.</translation>
     </message>
     <message>
         <source>There is nothing to save in this format. Open a model with parts first.</source>
@@ -521,15 +509,15 @@
     </message>
     <message>
         <source>The library &quot;%1&quot; is missing. Install Orvanta again and start it anew.</source>
-        <translation>La bibliothèque « %1 » est introuvable. Réinstallez Orvanta et redémarrez-le.</translation>
+        <translation>La bibliothèque « %1 » est introuvable. Réinstallez Orvanta et redémarrez-le.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; lacks the function &quot;%2&quot;. Install Orvanta again and start it anew.</source>
-        <translation>La fonction « %2 » manque dans la bibliothèque « %1 ». Réinstallez Orvanta et redémarrez-le.</translation>
+        <translation>La fonction « %2 » manque dans la bibliothèque « %1 ». Réinstallez Orvanta et redémarrez-le.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; made no plug-in. The viewer works on without it; install the plug-in again to get it back.</source>
-        <translation>La bibliothèque « %1 » n&apos;a créé aucun module. La visionneuse continue sans lui ; réinstallez le module pour le retrouver.</translation>
+        <translation>La bibliothèque « %1 » n&apos;a créé aucun module. La visionneuse continue sans lui ; réinstallez le module pour le retrouver.</translation>
     </message>
     <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
@@ -538,6 +526,107 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>Il n&apos;y a pas d&apos;écran pour l&apos;affichage. Démarrez la visionneuse depuis une session de bureau.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Bleu canard</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violet</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rose</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Blanc</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Gris foncé</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>Modèles</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>La bibliothèque « %1 » ne peut pas être chargée : « %2 ». Réinstallez Orvanta et redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>La bibliothèque « %1 » n'a pas pu démarrer : « %2 ». Réinstallez Orvanta et redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>La bibliothèque « %1 » n'a pas pu démarrer. Réinstallez Orvanta et redémarrez-le.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>La bibliothèque « %1 » ne s'est pas arrêtée correctement : « %2 ». Enregistrez votre travail et redémarrez Orvanta.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>La bibliothèque « %1 » ne s'est pas arrêtée correctement. Enregistrez votre travail et redémarrez Orvanta.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>La bibliothèque « %1 » n'est pas un module pour les fenêtres de la visionneuse. Retirez-la du dossier « %2 ».</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>L'image ne peut pas être créée sur cet écran. Vérifiez le pilote graphique.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>Impossible d'écrire l'image « %1 ». Vérifiez le dossier et que le nom se termine par .png ou .jpg.</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>Il n'y a pas d'écran pour l'affichage. Installez « %1 » ou démarrez la visionneuse depuis une session de bureau.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>%Ln pièce</numerusform>
+            <numerusform>%Ln pièces</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>%Ln triangle</numerusform>
+            <numerusform>%Ln triangles</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln sélectionnée</numerusform>
+            <numerusform>%Ln sélectionnées</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -40,7 +40,7 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
+        <source>No model has been opened yet</source>
         <translation>まだモデルを開いていません</translation>
     </message>
     <message>
@@ -128,7 +128,7 @@
         <translation>縮小</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>モデルから離れる</translation>
     </message>
     <message>
@@ -300,10 +300,6 @@
         <translation>モデルツリーとビューを行き来する</translation>
     </message>
     <message>
-        <source>%1 parts</source>
-        <translation>%1 部品</translation>
-    </message>
-    <message>
         <source> mm</source>
         <translation> mm</translation>
     </message>
@@ -328,14 +324,6 @@
         <translation>モデルなし</translation>
     </message>
     <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>%1 部品   %2 三角形</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>%1 選択</translation>
-    </message>
-    <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
         <translation>このペインは別のウィンドウに表示されています。戻すには、そのウィンドウを閉じてください。</translation>
     </message>
@@ -356,7 +344,7 @@
         <translation>前のパネルを表示</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>次のパネルを表示</translation>
     </message>
     <message>
@@ -538,6 +526,104 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>描画する画面がありません。デスクトップセッションからビューアーを起動してください。</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>赤</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>オレンジ</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>緑</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>青緑</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>青</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>紫</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>ピンク</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>濃い灰色</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>モデル</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>ライブラリ「%1」を読み込めません（「%2」）。Orvanta を再インストールして起動し直してください。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>ライブラリ「%1」を開始できませんでした（「%2」）。Orvanta を再インストールして起動し直してください。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>ライブラリ「%1」を開始できませんでした。Orvanta を再インストールして起動し直してください。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>ライブラリ「%1」を正常に終了できませんでした（「%2」）。作業内容を保存して Orvanta を起動し直してください。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>ライブラリ「%1」を正常に終了できませんでした。作業内容を保存して Orvanta を起動し直してください。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>ライブラリ「%1」はビューアーのウィンドウ用のプラグインではありません。フォルダー「%2」から移動してください。</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>このディスプレイでは画像を描画できません。グラフィックス ドライバーを確認してください。</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>画像「%1」を書き込めません。フォルダーと、名前が .png または .jpg で終わることを確認してください。</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>描画するディスプレイがありません。「%1」をインストールするか、デスクトップ セッションからビューアーを起動してください。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>%Ln 部品</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>%Ln 三角形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln 選択</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

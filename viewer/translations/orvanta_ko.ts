@@ -40,7 +40,7 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
+        <source>No model has been opened yet</source>
         <translation>아직 연 모델이 없습니다</translation>
     </message>
     <message>
@@ -128,7 +128,7 @@
         <translation>축소</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>모델을 멀리</translation>
     </message>
     <message>
@@ -193,7 +193,7 @@
     </message>
     <message>
         <source>Look from a corner</source>
-        <translation>모서리에서 보기</translation>
+        <translation>등각 방향에서 보기</translation>
     </message>
     <message>
         <source>Hide</source>
@@ -293,15 +293,11 @@
     </message>
     <message>
         <source>Next pane</source>
-        <translation>다음 창</translation>
+        <translation>다음 패널</translation>
     </message>
     <message>
         <source>Go from the model tree to the view and back</source>
         <translation>모델 트리와 뷰 사이를 오가기</translation>
-    </message>
-    <message>
-        <source>%1 parts</source>
-        <translation>부품 %1개</translation>
     </message>
     <message>
         <source> mm</source>
@@ -328,20 +324,12 @@
         <translation>모델 없음</translation>
     </message>
     <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>부품 %1개   삼각형 %2개</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>%1개 선택됨</translation>
-    </message>
-    <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
-        <translation>이 창은 별도의 창에 표시되어 있습니다. 되돌리려면 그 창을 닫으십시오.</translation>
+        <translation>이 패널은 별도의 창에 표시되어 있습니다. 되돌리려면 그 창을 닫으십시오.</translation>
     </message>
     <message>
         <source>Show this pane in a window of its own</source>
-        <translation>이 창을 별도의 창에 표시</translation>
+        <translation>이 패널을 별도의 창에 표시</translation>
     </message>
     <message>
         <source>Keep the side bar open</source>
@@ -356,7 +344,7 @@
         <translation>이전 패널 표시</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>다음 패널 표시</translation>
     </message>
     <message>
@@ -538,6 +526,104 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>그릴 화면이 없습니다. 데스크톱 세션에서 뷰어를 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>빨강</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>주황</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>노랑</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>초록</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>청록</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>파랑</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>보라</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>분홍</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>흰색</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>진한 회색</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>모델</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>라이브러리 &quot;%1&quot;을(를) 불러올 수 없습니다(&quot;%2&quot;). Orvanta를 다시 설치하고 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>라이브러리 &quot;%1&quot;을(를) 시작하지 못했습니다(&quot;%2&quot;). Orvanta를 다시 설치하고 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>라이브러리 &quot;%1&quot;을(를) 시작하지 못했습니다. Orvanta를 다시 설치하고 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>라이브러리 &quot;%1&quot;이(가) 제대로 끝나지 않았습니다(&quot;%2&quot;). 작업을 저장하고 Orvanta를 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>라이브러리 &quot;%1&quot;이(가) 제대로 끝나지 않았습니다. 작업을 저장하고 Orvanta를 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>라이브러리 &quot;%1&quot;은(는) 뷰어 창을 위한 플러그인이 아닙니다. 폴더 &quot;%2&quot;에서 옮기십시오.</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>이 디스플레이에서는 그림을 그릴 수 없습니다. 그래픽 드라이버를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>그림 &quot;%1&quot;을(를) 쓸 수 없습니다. 폴더를 확인하고 이름이 .png 또는 .jpg로 끝나는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>그릴 디스플레이가 없습니다. &quot;%1&quot;을(를) 설치하거나 데스크톱 세션에서 뷰어를 시작하십시오.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>부품 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>삼각형 %Ln개</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln개 선택됨</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -40,7 +40,7 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
+        <source>No model has been opened yet</source>
         <translation>Nenhum modelo foi aberto ainda</translation>
     </message>
     <message>
@@ -128,7 +128,7 @@
         <translation>Reduzir</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>Afastar o modelo</translation>
     </message>
     <message>
@@ -300,10 +300,6 @@
         <translation>Ir da árvore do modelo à vista e voltar</translation>
     </message>
     <message>
-        <source>%1 parts</source>
-        <translation>%1 peças</translation>
-    </message>
-    <message>
         <source> mm</source>
         <translation> mm</translation>
     </message>
@@ -328,14 +324,6 @@
         <translation>Nenhum modelo</translation>
     </message>
     <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>%1 peças   %2 triângulos</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>%1 selecionadas</translation>
-    </message>
-    <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
         <translation>Este painel está em uma janela própria. Feche-a para trazê-lo de volta.</translation>
     </message>
@@ -356,7 +344,7 @@
         <translation>Mostrar os grupos anteriores</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>Mostrar os grupos seguintes</translation>
     </message>
     <message>
@@ -538,6 +526,107 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>Não há tela para desenhar. Inicie o visualizador a partir de uma sessão de desktop.</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>Vermelho</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Laranja</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>Amarelo</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>Verde</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>Azul-petróleo</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>Azul</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>Violeta</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>Rosa</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Branco</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>Cinza-escuro</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>Modelos</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>Não é possível carregar a biblioteca &quot;%1&quot;: &quot;%2&quot;. Instale o Orvanta novamente e reinicie-o.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>Não foi possível iniciar a biblioteca &quot;%1&quot;: &quot;%2&quot;. Instale o Orvanta novamente e reinicie-o.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>Não foi possível iniciar a biblioteca &quot;%1&quot;. Instale o Orvanta novamente e reinicie-o.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>A biblioteca &quot;%1&quot; não terminou corretamente: &quot;%2&quot;. Salve seu trabalho e reinicie o Orvanta.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>A biblioteca &quot;%1&quot; não terminou corretamente. Salve seu trabalho e reinicie o Orvanta.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>A biblioteca &quot;%1&quot; não é um plug-in para as janelas do visualizador. Retire-a da pasta &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>Não é possível desenhar a imagem nesta tela. Verifique o driver gráfico.</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>Não é possível gravar a imagem &quot;%1&quot;. Verifique a pasta e se o nome termina em .png ou .jpg.</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>Não há tela para desenhar. Instale &quot;%1&quot; ou inicie o visualizador em uma sessão de desktop.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>%Ln peça</numerusform>
+            <numerusform>%Ln peças</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>%Ln triângulo</numerusform>
+            <numerusform>%Ln triângulos</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>%Ln selecionada</numerusform>
+            <numerusform>%Ln selecionadas</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

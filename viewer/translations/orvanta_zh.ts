@@ -40,7 +40,7 @@
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>No model was opened yet</source>
+        <source>No model has been opened yet</source>
         <translation>尚未打开过模型</translation>
     </message>
     <message>
@@ -128,7 +128,7 @@
         <translation>缩小</translation>
     </message>
     <message>
-        <source>Take the model away</source>
+        <source>Move the model away</source>
         <translation>推远模型</translation>
     </message>
     <message>
@@ -300,10 +300,6 @@
         <translation>在模型树与视图之间切换</translation>
     </message>
     <message>
-        <source>%1 parts</source>
-        <translation>%1 个零件</translation>
-    </message>
-    <message>
         <source> mm</source>
         <translation> mm</translation>
     </message>
@@ -328,14 +324,6 @@
         <translation>无模型</translation>
     </message>
     <message>
-        <source>%1 parts   %2 triangles</source>
-        <translation>%1 个零件   %2 个三角形</translation>
-    </message>
-    <message>
-        <source>%1 selected</source>
-        <translation>已选择 %1 个</translation>
-    </message>
-    <message>
         <source>This pane is shown in a window of its own. Close that window to bring it back.</source>
         <translation>此窗格显示在单独的窗口中。关闭该窗口即可将其恢复。</translation>
     </message>
@@ -356,7 +344,7 @@
         <translation>显示前面的面板</translation>
     </message>
     <message>
-        <source>Show the panels behind</source>
+        <source>Show the panels after</source>
         <translation>显示后面的面板</translation>
     </message>
     <message>
@@ -538,6 +526,104 @@
     <message>
         <source>There is no display to draw on. Start the viewer from a desktop session.</source>
         <translation>没有可供绘制的显示器。请从桌面会话启动查看器。</translation>
+    </message>
+    <message>
+        <source>Red</source>
+        <translation>红色</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>橙色</translation>
+    </message>
+    <message>
+        <source>Yellow</source>
+        <translation>黄色</translation>
+    </message>
+    <message>
+        <source>Green</source>
+        <translation>绿色</translation>
+    </message>
+    <message>
+        <source>Teal</source>
+        <translation>青色</translation>
+    </message>
+    <message>
+        <source>Blue</source>
+        <translation>蓝色</translation>
+    </message>
+    <message>
+        <source>Violet</source>
+        <translation>紫色</translation>
+    </message>
+    <message>
+        <source>Pink</source>
+        <translation>粉色</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>白色</translation>
+    </message>
+    <message>
+        <source>Dark grey</source>
+        <translation>深灰色</translation>
+    </message>
+    <message>
+        <source>Models</source>
+        <translation>模型</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; can't be loaded: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>无法加载库“%1”：“%2”。请重新安装并重新启动 Orvanta。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start: &quot;%2&quot;. Install Orvanta again and start it anew.</source>
+        <translation>库“%1”启动失败：“%2”。请重新安装并重新启动 Orvanta。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to start. Install Orvanta again and start it anew.</source>
+        <translation>库“%1”启动失败。请重新安装并重新启动 Orvanta。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
+        <translation>库“%1”未能正常结束：“%2”。请保存您的工作并重新启动 Orvanta。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
+        <translation>库“%1”未能正常结束。请保存您的工作并重新启动 Orvanta。</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
+        <translation>库“%1”不是用于查看器窗口的插件。请将其移出文件夹“%2”。</translation>
+    </message>
+    <message>
+        <source>The picture can't be drawn on this display. Check the graphics driver.</source>
+        <translation>无法在此显示器上绘制图片。请检查显卡驱动程序。</translation>
+    </message>
+    <message>
+        <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>
+        <translation>无法写入图片“%1”。请检查文件夹，并确认名称以 .png 或 .jpg 结尾。</translation>
+    </message>
+    <message>
+        <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
+        <translation>没有可用于绘制的显示器。请安装“%1”，或从桌面会话启动查看器。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln part(s)</source>
+        <translation>
+            <numerusform>%Ln 个零件</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln triangle(s)</source>
+        <translation>
+            <numerusform>%Ln 个三角形</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln selected</source>
+        <translation>
+            <numerusform>已选择 %Ln 个</numerusform>
+        </translation>
     </message>
 </context>
 </TS>
