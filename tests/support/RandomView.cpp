@@ -56,11 +56,12 @@ void arrangeRandomView(orvviewer::CommandContext& context, unsigned int seed)
     for (int color = 0; color < 4; ++color) {
         orvviewer::colourNodes(context, random.nodes(count, 80), static_cast<unsigned long>(random.below(0x1000000)));
     }
-    for (int move = 0; move < 2; ++move) {
-        orvviewer::moveNodes(context, random.nodes(count, 200), random.between(-40.0, 40.0),
-                             random.between(-40.0, 40.0), random.between(-40.0, 40.0));
-    }
     auto& camera = *orv::recordOf<orvgl::SCRenderer>(document)->camera;
+    double const far = 0.1 * orvviewer::pictureHeight(camera); // however small the model, it stays in sight
+    for (int move = 0; move < 2; ++move) {
+        orvviewer::moveNodes(context, random.nodes(count, 200), random.between(-far, far), random.between(-far, far),
+                             random.between(-far, far));
+    }
     orvviewer::orbit(camera, random.between(-3.0, 3.0), random.between(-1.0, 1.0));
     orvviewer::pan(camera, random.between(-0.1, 0.1), random.between(-0.1, 0.1));
     orvviewer::zoom(camera, random.between(0.7, 1.4));
