@@ -141,6 +141,8 @@ void setRules(CURL* handle, TransferLimits const& limits, bool isPlain)
     curl_easy_setopt(handle, CURLOPT_LOW_SPEED_LIMIT, 1L);
     curl_easy_setopt(handle, CURLOPT_LOW_SPEED_TIME, limits.slowSeconds);
     curl_easy_setopt(handle, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limits.largestAnswer));
+    // One is kept, so that a request which may be sent again on a lost connection is sent twice at most.
+    curl_easy_setopt(handle, CURLOPT_MAXCONNECTS, 1L);
     curl_easy_setopt(handle, CURLOPT_USERAGENT, "Orvanta/" ORV_VERSION);
     if (isPlain) {
         curl_easy_setopt(handle, CURLOPT_PROXY, ""); // whatever the environment says

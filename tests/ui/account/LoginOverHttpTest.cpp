@@ -366,7 +366,7 @@ TEST_P(FailedDevice, NeverFailsALogin)
 INSTANTIATE_TEST_SUITE_P(Answers, FailedDevice,
                          testing::Values(NamedAnswer{"Refused", Answer::status(401)},
                                          NamedAnswer{"Error", Answer::status(500)},
-                                         NamedAnswer{"HangsUp", Answer::hangUp(), 2},
+                                         NamedAnswer{"HangsUp", Answer::hangUp()},
                                          NamedAnswer{"StaysSilent", Answer::silence()},
                                          NamedAnswer{"AnswersWithAToken", Answer::ok(jobIdBytes)}),
                          NameOfCase());
