@@ -54,6 +54,7 @@ Pair::Pair(std::string title, Work plainWork, Work ownWork)
 
 void Pair::run(benchmark::State& state)
 {
+    isBegun = true;
     Times plainTimes;
     Times ownTimes;
     bool plainFirst = false;

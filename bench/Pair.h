@@ -24,6 +24,7 @@ public:
     double ratio() const { return ownTime / plainTime; } ///< of the lower quartiles; after run
     /// What one round of `own` takes of this thread's processor time, milliseconds: the lower quartile; after run.
     double ownProcessorTime() const { return ownProcessor * 1e3; }
+    bool wasRun() const { return isBegun; } ///< false where the command line left it out
     bool succeeded() const { return done; }
 
 private:
@@ -33,6 +34,7 @@ private:
     double plainTime = 1.0; ///< seconds
     double ownTime = 0.0;
     double ownProcessor = 0.0; ///< seconds
+    bool isBegun = false;
     bool done = false;
 };
 

@@ -114,7 +114,6 @@ struct Case {
     int iterations;
     std::function<void()> prepare;
     std::function<void()> release;
-    bool wasRun = false;
 };
 
 Case reading(int records)
@@ -165,7 +164,6 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     for (Case& each : cases) {
         auto const run = [&each](benchmark::State& state) {
-            each.wasRun = true;
             each.prepare();
             each.pair.run(state);
             each.release();
@@ -179,7 +177,7 @@ int main(int argc, char** argv)
 
     orvbench::Aims aims;
     for (Case const& each : cases) {
-        if (!each.wasRun) {
+        if (!each.pair.wasRun()) {
             continue; // left out by a filter
         }
         aims.expect(each.pair.title() + " did its work", each.pair.succeeded());

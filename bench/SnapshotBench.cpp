@@ -162,12 +162,15 @@ int main(int argc, char** argv)
             ->Unit(benchmark::kMillisecond)
             ->Iterations(iterations);
     };
-    for (auto const& [times, iterations] : {std::pair{1, 100}, std::pair{600, 12}}) {
+    for (auto const& [times, iterations] : {std::pair{1, 100}, std::pair{600, 4}}) {
         add("Snapshot", times, iterations, &Viewer::snapshot);
         add("Restore", times, iterations, &Viewer::restore);
     }
     benchmark::RunSpecifiedBenchmarks();
     for (auto const& pair : pairs) {
+        if (!pair.wasRun()) {
+            continue;
+        }
         aims.expect(pair.title() + " was drawn, once each time", pair.succeeded());
         aims.expectUnder(pair.title() + ", times a plain redraw", pair.ratio(), limit, "");
     }
