@@ -3,6 +3,8 @@
 #include "platform/text/Text.h"
 #include "service/JsonText.h"
 
+#include <new>
+
 bool readAccountName(std::wstring const& response, std::wstring& name)
 try {
     Json::Value root;
@@ -13,4 +15,6 @@ try {
     return true;
 } catch (Json::Exception const&) {
     return false; // nested too deeply, or a name that is a list or an object
+} catch (std::bad_alloc const&) {
+    return false; // longer than the memory holds: the user is signed in all the same
 }

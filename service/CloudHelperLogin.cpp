@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <utility>
+
 namespace
 {
 
@@ -35,7 +37,7 @@ std::wstring CloudHelper::login(std::wstring const& username, std::wstring const
     }
     // Whatever the service said: the caller tells a token by its length. The session stands before the device is
     // registered, and its registration never fails a login.
-    std::wstring const answer = updator.getResponse();
+    std::wstring const answer = std::move(updator).getResponse(); // nobody reads what is answered from here on
     session.write(username, answer);
 
     orv::OmniInfo device = openRequest(session.path(), L"/api/InstalledDevice/", username);

@@ -100,6 +100,7 @@ void CookieJar::save(CURL* handle)
         }
     }
     if (own == content) {
+        isSaved = true; // what couldn't be written has been taken back, and the file may be read again
         return;
     }
     text += linesOf(path, owner, false);

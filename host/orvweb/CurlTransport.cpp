@@ -141,8 +141,6 @@ void setRules(CURL* handle, TransferLimits const& limits, bool isPlain)
     curl_easy_setopt(handle, CURLOPT_LOW_SPEED_LIMIT, 1L);
     curl_easy_setopt(handle, CURLOPT_LOW_SPEED_TIME, limits.slowSeconds);
     curl_easy_setopt(handle, CURLOPT_MAXFILESIZE_LARGE, static_cast<curl_off_t>(limits.largestAnswer));
-    // One is kept, so that a request which may be sent again on a lost connection is sent twice at most.
-    curl_easy_setopt(handle, CURLOPT_MAXCONNECTS, 1L);
     curl_easy_setopt(handle, CURLOPT_USERAGENT, "Orvanta/" ORV_VERSION);
     if (isPlain) {
         curl_easy_setopt(handle, CURLOPT_PROXY, ""); // whatever the environment says
@@ -245,6 +243,8 @@ try {
         // No file, no login and no invitation is sent twice: on a kept connection that ends without an answer libcurl
         // would begin again by itself.
         curl_easy_setopt(handle, CURLOPT_FRESH_CONNECT, 1L);
+        // Nor is it left beside a kept one: what may be sent again would be tried on each.
+        curl_easy_setopt(handle, CURLOPT_FORBID_REUSE, 1L);
     }
     curl_easy_setopt(handle, CURLOPT_URL, url.c_str());
 

@@ -21,6 +21,7 @@ namespace
 {
 
 std::string const cookieHeader = "Set-Cookie: orvanta_session=abc; Path=/api/; Max-Age=3600; HttpOnly\r\n";
+std::string const cookieEnd = "Set-Cookie: orvanta_session=; Path=/api/; Max-Age=0\r\n";
 
 class WebJar : public testing::Test
 {
@@ -29,10 +30,20 @@ protected:
     std::string cookieSentTo(ScriptedHttpServer& server, std::string const& moreHeaders = {},
                              std::string const& path = "/api/x")
     {
+        return cookieOf(*transport, server, moreHeaders, path);
+    }
+    /// The same of a request that another viewer may send to the one service.
+    std::string sendBy(orvweb::CurlTransport& viewer, std::string const& moreHeaders = {})
+    {
+        return cookieOf(viewer, service, moreHeaders, "/api/x");
+    }
+    static std::string cookieOf(orvweb::CurlTransport& viewer, ScriptedHttpServer& server,
+                                std::string const& moreHeaders, std::string const& path)
+    {
         server.expect("GET", path, Answer::ok("ok", moreHeaders));
         orvweb::HttpRequest request;
         request.url = server.url() + path;
-        EXPECT_EQ(transport->send(request, {}).code, orv::ErrorCode::none);
+        EXPECT_EQ(viewer.send(request, {}).code, orv::ErrorCode::none);
         return server.last().header("Cookie");
     }
     void restart() { transport = std::make_unique<orvweb::CurlTransport>(); }
@@ -157,23 +168,27 @@ TEST_F(WebJar, ThatCantBeWrittenIsTriedAgain)
     EXPECT_EQ(cookieSentTo(service), "orvanta_session=abc");
 }
 
+TEST_F(WebJar, IsReadAgainOnceWhatCouldntBeWrittenIsTakenBack)
+{
+    std::filesystem::create_directories(jar() / "in the way");
+    cookieSentTo(service, cookieHeader);
+    EXPECT_EQ(cookieSentTo(service, cookieEnd), "orvanta_session=abc") << "signed out again";
+    std::filesystem::remove_all(jar());
+    orvweb::CurlTransport other;
+    sendBy(other, cookieHeader);
+    EXPECT_EQ(sendBy(*transport), "orvanta_session=abc") << "of the other viewer's session";
+}
+
 TEST_F(WebJar, IsReadAgainWhereAnotherViewerHasWrittenIt)
 {
     orvweb::CurlTransport other;
-    auto const sendBy = [this](orvweb::CurlTransport& viewer, std::string const& moreHeaders = {}) {
-        service.expect("GET", "/api/x", Answer::ok("ok", moreHeaders));
-        orvweb::HttpRequest request;
-        request.url = service.url() + "/api/x";
-        EXPECT_EQ(viewer.send(request, {}).code, orv::ErrorCode::none);
-        return service.last().header("Cookie");
-    };
     EXPECT_EQ(sendBy(*transport), "");
     EXPECT_EQ(sendBy(other, cookieHeader), "") << "signs in";
     EXPECT_EQ(sendBy(*transport), "orvanta_session=abc") << "signs out: the service must hear whose session it is";
     EXPECT_EQ(sendBy(*transport, "Set-Cookie: orvanta_session=def; Path=/api/; Max-Age=3600\r\n"),
               "orvanta_session=abc");
     EXPECT_EQ(sendBy(other), "orvanta_session=def");
-    EXPECT_EQ(sendBy(other, "Set-Cookie: orvanta_session=; Path=/api/; Max-Age=0\r\n"), "orvanta_session=def");
+    EXPECT_EQ(sendBy(other, cookieEnd), "orvanta_session=def");
     EXPECT_EQ(sendBy(*transport), "") << "the jar is gone, and its cookie with it";
     EXPECT_FALSE(std::filesystem::exists(jar()));
 }

@@ -198,6 +198,8 @@ TEST_F(PushFromViewer, TheBarShowsThePushesCourseOnceWhateverTheExportersReport)
     EXPECT_TRUE(save.starts_with("shown ")) << save;
     EXPECT_TRUE(save.ends_with(" 100 hidden ")) << save;
     EXPECT_GT(std::count(save.begin(), save.end(), ' '), 4) << "a save shows the exporter's own course: " << save;
+    session->application()->saveFile((folder.path / "again.prc").wstring().c_str(), {});
+    EXPECT_EQ(watch.takeCourse(), save) << "that a comment asked for";
 }
 
 TEST_F(PushFromViewer, PreviewsAreShownInTheRecentFiles)

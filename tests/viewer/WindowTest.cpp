@@ -47,6 +47,14 @@ protected:
     orvgl::Camera& camera() { return *orv::recordOf<orvgl::SCRenderer>(session->document())->camera; }
     QPoint middle() { return view().rect().center(); }
 
+    /// The view as it stands on the screen.
+    QImage shown()
+    {
+        orvplatform::testing::processEvents();
+        auto const corner = view().mapToGlobal(QPoint(0, 0));
+        return view().screen()->grabWindow(0, corner.x(), corner.y(), view().width(), view().height()).toImage();
+    }
+
     std::vector<unsigned char> frame(unsigned side = 128)
     {
         orvgl::ImageRenderer renderer(session->document(), side, side, false);
@@ -99,6 +107,29 @@ TEST_F(WindowTest, AClickSelectsThePartUnderThePointer)
     EXPECT_GE(orv::recordOf<orvsg::SCSceneTopo>(session->document())->nodes.getValue(node).mesh, 0);
     QTest::mouseClick(&view(), Qt::LeftButton, {}, QPoint(8, view().height() / 2));
     EXPECT_TRUE(session->context().selection().empty());
+}
+
+TEST_F(WindowTest, AHiddenPartLeavesThePointerAndComesBackToIt)
+{
+    openCubes();
+    QPoint const beside(8, view().height() / 2);
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, middle());
+    ASSERT_EQ(session->context().selection().size(), 1U);
+    int const node = *session->context().selection().begin();
+    auto const before = shown();
+    session->runCommand(orvviewer::hideParts);
+    auto const hidden = shown();
+    EXPECT_NE(hidden, before);
+    QTest::mouseMove(&view(), beside);
+    EXPECT_EQ(shown(), hidden) << "its hover colour is gone before the pointer moves";
+
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, middle());
+    EXPECT_EQ(session->context().selection().count(node), 0U) << "what isn't seen isn't picked";
+    session->runCommand(orvviewer::showAllParts);
+    orvplatform::testing::processEvents();
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, beside);
+    QTest::mouseClick(&view(), Qt::LeftButton, {}, middle());
+    EXPECT_EQ(session->context().selection(), std::set<int>{node});
 }
 
 TEST_F(WindowTest, KeysTurnPanAndZoom)

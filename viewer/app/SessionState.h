@@ -4,6 +4,7 @@
 #include "host/runtime/IFrameRenderer.h"
 #include "viewer/app/Barrier.h"
 #include "viewer/app/CommandTable.h"
+#include "viewer/app/Exporting.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/MovePanel.h"
 #include "viewer/app/Preferences.h"
@@ -48,6 +49,7 @@ struct ViewerSession::State final : CommandContext {
     bool openModel(std::wstring const& path);
     void closeModel();
     bool exportModel(std::wstring const& path);
+    ExportResult exportWithProgress(std::wstring const& path); ///< shows the exporter's course
     QImage picture(int width, int height);
     void savePreview();
     bool savePicture(std::wstring const& path, int width, int height);

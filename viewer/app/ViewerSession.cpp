@@ -136,7 +136,7 @@ void ViewerSession::State::makeApplication()
 {
     ViewerApplication::Services services;
     services.save = [this](std::wstring const& path) {
-        auto const result = exportDocument(openDocument, path, &window->status());
+        auto const result = exportWithProgress(path);
         if (result.status != 0) {
             showStatus(result.message);
         }
@@ -253,11 +253,17 @@ void ViewerSession::State::closeModel()
 
 bool ViewerSession::State::exportModel(std::wstring const& path)
 {
-    window->status().showProgress(1, orvexp::exportChannel);
-    auto const result = exportDocument(openDocument, path, &window->status());
-    window->status().showProgress(0, orvexp::exportChannel);
+    auto const result = exportWithProgress(path);
     showStatus(result.message);
     return result.status == 0;
+}
+
+ExportResult ViewerSession::State::exportWithProgress(std::wstring const& path)
+{
+    window->status().showProgress(1, orvexp::exportChannel);
+    auto result = exportDocument(openDocument, path, &window->status());
+    window->status().showProgress(0, orvexp::exportChannel);
+    return result;
 }
 
 QImage ViewerSession::State::picture(int width, int height)

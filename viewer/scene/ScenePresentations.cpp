@@ -138,6 +138,9 @@ void ScenePresentations::setVisible(Handle(PartInstance) const& instance, bool v
     if (visible) {
         context->Activate(instance);
     } else {
+        if (context->HasDetected() && context->DetectedInteractive() == instance) {
+            context->ClearDetected(Standard_False); // else its hover colour stays until the pointer moves
+        }
         context->Deactivate(instance);
     }
 }

@@ -49,7 +49,6 @@ inline std::string sessionState()
 struct NamedAnswer {
     char const* name;
     Answer answer;
-    int times = 1; ///< 2 where a kept connection breaks, as the request is then sent once more on a new one
 };
 inline std::ostream& operator<<(std::ostream& stream, NamedAnswer const& each)
 {

@@ -352,9 +352,7 @@ class FailedDevice : public LoginOverHttp, public testing::WithParamInterface<Na
 TEST_P(FailedDevice, NeverFailsALogin)
 {
     server.expect("POST", "/api/Login/", Answer::ok(tokenBytes));
-    for (int i = 0; i < GetParam().times; ++i) {
-        server.expect("POST", "/api/InstalledDevice/", GetParam().answer);
-    }
+    server.expect("POST", "/api/InstalledDevice/", GetParam().answer);
     server.expect("GET", "/api/AccountInfo/", Answer::ok(R"({"name":"Ann"})"));
     EXPECT_EQ(openLogin(signInAsAnn), IDCANCEL);
     expectSignedIn();
@@ -379,9 +377,6 @@ TEST_P(UnknownName, LeavesTwoLinesAndTheUserSignedIn)
 {
     user->name = L"Before";
     expectLogin(GetParam().answer);
-    for (int i = 1; i < GetParam().times; ++i) {
-        server.expect("GET", "/api/AccountInfo/", GetParam().answer);
-    }
     std::vector<std::string> broken;
     orvplatform::setExceptionHandler([&broken](std::string const& why) { broken.push_back(why); });
     EXPECT_EQ(openLogin(signInAsAnn), IDCANCEL);
@@ -398,7 +393,7 @@ INSTANTIATE_TEST_SUITE_P(
     Answers, UnknownName,
     testing::Values(NamedAnswer{"Refused", Answer::status(401)},
                     NamedAnswer{"Error", Answer::status(500, R"({"name":"Ann"})")},
-                    NamedAnswer{"HangsUp", Answer::hangUp(), 2}, NamedAnswer{"StaysSilent", Answer::silence()},
+                    NamedAnswer{"HangsUp", Answer::hangUp()}, NamedAnswer{"StaysSilent", Answer::silence()},
                     NamedAnswer{"CutInMidBody", Answer::cut(R"({"name":)", 100)}, NamedAnswer{"Empty", Answer::ok("")},
                     NamedAnswer{"HtmlPage", Answer::ok("<html><body>It works!</body></html>")},
                     NamedAnswer{"NulBytes", Answer::ok(std::string(100, '\0'))},
