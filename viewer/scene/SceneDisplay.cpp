@@ -1,6 +1,7 @@
 #include "viewer/scene/SceneDisplay.h"
 
 #include "host/orvgl/SCRenderer.h"
+#include "viewer/scene/DisplayLook.h"
 #include "viewer/scene/PartPresentation.h"
 #include "viewer/scene/ScenePresentations.h"
 #include "viewer/scene/ViewCamera.h"
@@ -15,8 +16,6 @@
 #include <Standard_Failure.hxx>
 #include <TColStd_IndexedDataMapOfStringString.hxx>
 #include <V3d.hxx>
-#include <V3d_AmbientLight.hxx>
-#include <V3d_DirectionalLight.hxx>
 #include <V3d_View.hxx>
 #include <V3d_Viewer.hxx>
 #include <Xw_Window.hxx>
@@ -34,8 +33,6 @@ namespace
 constexpr int multisampling = 4;
 constexpr float coarseScale = 0.6F; ///< of the resolution, where coarse frames are slow
 constexpr std::chrono::milliseconds smoothFrame{60};
-constexpr unsigned long selectionColor = 0xE8892E; ///< packed: a clear blue
-constexpr unsigned long hoverColor = 0xE6B98C;
 
 bool drawsInSoftware(Handle(V3d_View) const& view)
 {
@@ -44,40 +41,6 @@ bool drawsInSoftware(Handle(V3d_View) const& view)
     TCollection_AsciiString renderer;
     facts.FindFromKey("GLdevice", renderer);
     return renderer.Search("llvmpipe") > 0 || renderer.Search("softpipe") > 0;
-}
-
-void setUpLights(Handle(V3d_Viewer) const& viewer)
-{
-    viewer->SetLightOff();
-    Handle(V3d_AmbientLight) const ambient = new V3d_AmbientLight(Quantity_NOC_WHITE);
-    ambient->SetIntensity(1.0F);
-    // Both lights go with the eye: one from over the left shoulder, a weaker one from the right to model the far sides.
-    Handle(V3d_DirectionalLight) const key = new V3d_DirectionalLight(gp_Dir(0.35, -0.45, -1.0), Quantity_NOC_WHITE);
-    key->SetHeadlight(true);
-    key->SetIntensity(0.80F);
-    Handle(V3d_DirectionalLight) const fill = new V3d_DirectionalLight(gp_Dir(-1.0, 0.25, -0.6), Quantity_NOC_WHITE);
-    fill->SetHeadlight(true);
-    fill->SetIntensity(0.25F);
-    auto const add = [&viewer](Handle(V3d_Light) const& light) {
-        viewer->AddLight(light);
-        viewer->SetLightOn(light);
-    };
-    add(ambient);
-    add(key);
-    add(fill);
-}
-
-void setUpHighlighting(Handle(AIS_InteractiveContext) const& context)
-{
-    auto const style = [&context](Prs3d_TypeOfHighlight kind, unsigned long color) {
-        Handle(Prs3d_Drawer) const drawer = context->HighlightStyle(kind);
-        drawer->SetColor(colorOf(color));
-        drawer->SetDisplayMode(0);
-    };
-    style(Prs3d_TypeOfHighlight_Selected, selectionColor);
-    style(Prs3d_TypeOfHighlight_Dynamic, hoverColor);
-    style(Prs3d_TypeOfHighlight_LocalSelected, selectionColor);
-    style(Prs3d_TypeOfHighlight_LocalDynamic, hoverColor);
 }
 
 } // namespace
