@@ -9,6 +9,7 @@ IMPLEMENT_DYNAMIC(CMFCOutlookBarTabCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CMFCOutlookBar, CDockablePane)
 
 BEGIN_MESSAGE_MAP(CMFCOutlookBarTabCtrl, CWnd)
+ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 BEGIN_MESSAGE_MAP(CMFCOutlookBar, CDockablePane)
@@ -40,6 +41,13 @@ CMFCOutlookBarTabCtrl::CMFCOutlookBarTabCtrl() = default;
 CMFCOutlookBarTabCtrl::~CMFCOutlookBarTabCtrl()
 {
     orvplatform::onPaneChosen(m_hWnd, {});
+    orvplatform::gatherPanes(m_hWnd);
+}
+
+void CMFCOutlookBarTabCtrl::OnDestroy()
+{
+    orvplatform::gatherPanes(m_hWnd);
+    CWnd::OnDestroy();
 }
 
 BOOL CMFCOutlookBarTabCtrl::Create(const RECT& rect, CWnd* parent, UINT id)

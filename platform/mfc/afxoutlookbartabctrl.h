@@ -38,6 +38,7 @@ public:
 protected:
     // Called after another tab became active (also for the first one, with an earlier index of -1).
     virtual void OnActiveTabChanged(int earlier, int now);
+    afx_msg void OnDestroy();
 
 private:
     friend class CMFCOutlookBar;

@@ -1,6 +1,7 @@
 #include "platform/qt/Native.h"
 
 #include "platform/qt/Gdi.h"
+#include "platform/qt/OutlookWidget.h"
 #include "platform/qt/RibbonWidget.h"
 #include "platform/qt/Window.h"
 
@@ -78,6 +79,21 @@ void setRibbonHooks(CMFCRibbonBar& ribbon, RibbonHooks hooks)
 void refreshRibbon(CMFCRibbonBar& ribbon)
 {
     updateRibbon(ribbon.m_hWnd);
+}
+
+bool focusRibbon(CMFCRibbonBar& ribbon)
+{
+    return focusRibbon(ribbon.m_hWnd);
+}
+bool focusSideBar(CMFCOutlookBar& bar)
+{
+    const CWnd* tabs = bar.GetUnderlyingWindow();
+    return tabs && focusPane(tabs->GetSafeHwnd());
+}
+bool hasSideBarFocus(CMFCOutlookBar& bar)
+{
+    const CWnd* tabs = bar.GetUnderlyingWindow();
+    return tabs && hasPaneFocus(tabs->GetSafeHwnd());
 }
 } // namespace orvplatform
 

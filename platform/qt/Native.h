@@ -56,6 +56,12 @@ struct RibbonHooks {
 void setRibbonHooks(CMFCRibbonBar& ribbon, RibbonHooks hooks);
 void refreshRibbon(CMFCRibbonBar& ribbon); // asks the queries now
 
+// The keyboard's way into a ribbon, to its first enabled button (Escape leads back), and into a side bar, to the
+// control of its active pane that had the focus last, or the first one. False where there is nothing to go to.
+bool focusRibbon(CMFCRibbonBar& ribbon);
+bool focusSideBar(CMFCOutlookBar& bar);
+bool hasSideBarFocus(CMFCOutlookBar& bar); // its panes may float or be slid out
+
 // A page of a property sheet that is a widget of the program. The sheet's window takes the widget over; `onApply` runs
 // when the sheet is accepted or applied.
 void addWidgetPage(CMFCPropertySheet& sheet, QWidget* page, const QString& title, std::function<void()> onApply = {});

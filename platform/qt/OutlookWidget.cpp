@@ -170,4 +170,22 @@ bool arePanesSlidOut(HWND tabs)
     PaneTabs* widget = tabsWidget(tabs);
     return widget && widget->isSlidOut();
 }
+
+void gatherPanes(HWND tabs)
+{
+    if (PaneTabs* widget = tabsWidget(tabs))
+        widget->gather();
+}
+
+bool focusPane(HWND tabs)
+{
+    PaneTabs* widget = tabsWidget(tabs);
+    return widget && widget->takeFocus();
+}
+
+bool hasPaneFocus(HWND tabs)
+{
+    const PaneTabs* widget = tabsWidget(tabs);
+    return widget && widget->hasFocusInside();
+}
 } // namespace orvplatform

@@ -35,4 +35,11 @@ bool arePanesFolded(HWND tabs);
 // leaves it, by a click beside it and by Escape.
 void slidePaneOut(HWND tabs, int index);
 bool arePanesSlidOut(HWND tabs);
+// Before the end: a pane that floats or is slid out is the window's, which would keep it for longer than the library
+// that its control comes from.
+void gatherPanes(HWND tabs);
+// The keyboard goes to the active pane, wherever that stands, and slides it out where the panes are unpinned; false
+// where there is none.
+bool focusPane(HWND tabs);
+bool hasPaneFocus(HWND tabs); // the panes and what belongs to them
 } // namespace orvplatform

@@ -124,6 +124,17 @@ void PaneTabs::setFloating(int index, bool floating)
     updateButtons();
 }
 
+void PaneTabs::gather()
+{
+    slideIn();
+    for (const Pane& pane : panes) {
+        if (pane.frame && pane.frame->isWindow()) {
+            pane.frame->hide();
+            pane.frame->setParent(pane.page);
+        }
+    }
+}
+
 bool PaneTabs::isFolded() const
 {
     return !strip->isHidden();
@@ -196,6 +207,29 @@ void PaneTabs::slideIn()
 bool PaneTabs::isSlidOut() const
 {
     return isFolded() && opened && opened->parentWidget() != this && !opened->isHidden();
+}
+
+bool PaneTabs::takeFocus()
+{
+    Pane* pane = at(bar.currentIndex());
+    if (!pane || !pane->frame)
+        return false;
+    if (pane->frame->isWindow()) {
+        pane->frame->raise();
+        pane->frame->activateWindow();
+    } else {
+        slideOut(bar.currentIndex(), true); // does nothing while the panes are pinned
+    }
+    focusWithin(pane->frame);
+    return true;
+}
+
+bool PaneTabs::hasFocusInside() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    return focus && (contains(focus) || std::any_of(panes.begin(), panes.end(), [focus](const Pane& each) {
+                         return each.frame && each.frame->isAncestorOf(focus);
+                     }));
 }
 
 void PaneTabs::choose(int index)
@@ -304,6 +338,8 @@ void PaneTabs::showPin()
 
 void PaneTabs::focusWithin(const QWidget* frame)
 {
+    if (QWidget* last = frame ? frame->focusWidget() : nullptr; last && last->isVisible() && last->isEnabled())
+        return last->setFocus(Qt::TabFocusReason);
     for (QWidget* each = frame ? frame->nextInFocusChain() : nullptr; each && each != frame;
          each = each->nextInFocusChain())
         if (frame->isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) && each->isVisible() && each->isEnabled())

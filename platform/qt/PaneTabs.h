@@ -54,12 +54,16 @@ public:
     void updateButtons();
 
     void setFloating(int index, bool floating);
+    void gather(); // all panes become this widget's again, to end with it
     bool isFolded() const;
     void setFolded(bool fold);
     // Puts a pane beside the strip, over their window. With `take` it gets the focus and stays until it leaves.
     void slideOut(int index, bool take);
     void slideIn();
     bool isSlidOut() const;
+    // To the control of the active pane that had the focus last, or its first one. False without a pane.
+    bool takeFocus();
+    bool hasFocusInside() const;
 
     QTabBar& bar;
     QStackedWidget& stack;

@@ -189,6 +189,21 @@ public:
         stack.setCurrentIndex(bar.currentIndex());
     }
 
+    bool takeFocus()
+    {
+        const bool isInside = QApplication::focusWidget() && isAncestorOf(QApplication::focusWidget());
+        if (!isInside)
+            before = QApplication::focusWidget();
+        for (RibbonToolButton* button : buttons) {
+            if (button->isEnabled() && button->isVisible()) {
+                activateWindow(); // the focus may be in a pane with a window of its own
+                button->setFocus(Qt::ShortcutFocusReason);
+                return true;
+            }
+        }
+        return false;
+    }
+
     void update()
     {
         if (changed)
@@ -247,19 +262,12 @@ private:
         own.setColor(QPalette::Window, theme().surface);
         setPalette(own);
     }
-    void takeFocus()
-    {
-        const bool isInside = QApplication::focusWidget() && isAncestorOf(QApplication::focusWidget());
-        if (!isInside)
-            before = QApplication::focusWidget();
-        for (RibbonToolButton* button : buttons)
-            if (button->isEnabled() && button->isVisible())
-                return button->setFocus(Qt::ShortcutFocusReason);
-    }
     void leave()
     {
-        if (before)
+        if (before) {
+            before->activateWindow();
             before->setFocus(Qt::OtherFocusReason);
+        }
     }
     void add(RibbonToolButton* button)
     {
@@ -328,6 +336,12 @@ void updateRibbon(HWND ribbon)
 {
     if (RibbonWidget* widget = ribbonWidget(ribbon))
         widget->update();
+}
+
+bool focusRibbon(HWND ribbon)
+{
+    RibbonWidget* widget = ribbonWidget(ribbon);
+    return widget && widget->takeFocus();
 }
 
 QWidget* ribbonButton(HWND ribbon, UINT id)

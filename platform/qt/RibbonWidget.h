@@ -48,5 +48,6 @@ void ribbonChanged(HWND ribbon);
 void showRibbonPage(HWND ribbon, int page);
 void setRibbonHooks(HWND ribbon, RibbonHooks hooks);
 void updateRibbon(HWND ribbon);              // enabled and checked states, after outstanding changes
+bool focusRibbon(HWND ribbon);               // what F10 does; false where no button can be gone to
 QWidget* ribbonButton(HWND ribbon, UINT id); // null when it is not shown
 } // namespace orvplatform

@@ -266,9 +266,4 @@ void ModelTree::showSelection(std::set<int> const& nodes)
     isShowingSelection = false;
 }
 
-void ModelTree::focusTree()
-{
-    tree->setFocus();
-}
-
 } // namespace orvviewer

@@ -55,7 +55,6 @@ public:
     void setDocument(std::shared_ptr<orv::IDocument> document);
     void visibilityChanged();
     void showSelection(std::set<int> const& nodes); ///< raises no signal
-    void focusTree();
 
 signals:
     void selectionWanted(std::set<int> const& nodes);

@@ -65,6 +65,11 @@ QWidget* Ribbon::widget() const
     return orvplatform::widgetOf(bar.GetSafeHwnd());
 }
 
+bool Ribbon::takeFocus()
+{
+    return orvplatform::focusRibbon(bar);
+}
+
 void Ribbon::refresh()
 {
     orvplatform::refreshRibbon(bar);

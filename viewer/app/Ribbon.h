@@ -30,6 +30,7 @@ public:
     CMFCRibbonBar& ribbonBar() { return bar; }
     HWND handle() const { return bar.GetSafeHwnd(); }
     void refresh();
+    bool takeFocus(); ///< the keyboard goes to the first enabled button; false where there is none
 
 private:
     void addPanel(CMFCRibbonCategory& category, char const* title, std::initializer_list<CommandId> ids);

@@ -243,15 +243,19 @@ void ViewerSession::State::addCommands()
                         [this] { return sideBar != nullptr && sideBar->paneCount() > 0; },
                         [this] { return window->isSideBarShown(); }});
     add(nextPane, {tr("Next pane"),
-                   tr("Go from the model tree to the view and back"),
+                   tr("Go round from the model tree to the view, the side bar and the ribbon"),
                    {},
                    key(Qt::Key_F6),
-                   [this] {
-                       window->view().hasFocus() && window->isTreeShown() ? window->tree().focusTree()
-                                                                          : window->view().setFocus();
-                   },
+                   [this] { goRound(focusPlaces(), 1); },
                    {},
                    {}});
+    add(previousPane, {tr("Previous pane"),
+                       tr("Go round the other way"),
+                       {},
+                       key(Qt::SHIFT | Qt::Key_F6),
+                       [this] { goRound(focusPlaces(), -1); },
+                       {},
+                       {}});
 }
 
 void ViewerSession::State::askForModel()

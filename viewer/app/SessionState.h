@@ -5,6 +5,7 @@
 #include "viewer/app/Barrier.h"
 #include "viewer/app/CommandTable.h"
 #include "viewer/app/Exporting.h"
+#include "viewer/app/FocusRound.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/MovePanel.h"
 #include "viewer/app/Preferences.h"
@@ -63,6 +64,7 @@ struct ViewerSession::State final : CommandContext {
     void applyPreferences(ViewerPreferences const& changed);
     void showPartMenu(QPoint const& globalPosition, int node);
     QMenu* menuOf(unsigned int id) const;
+    std::vector<FocusPlace> focusPlaces(); ///< model tree, view or start page, side bar, ribbon
 
     std::shared_ptr<orv::IDocument> openDocument;
     std::set<int> selectedNodes;

@@ -52,6 +52,20 @@ QMenu* ViewerSession::State::menuOf(unsigned int id) const
     }
 }
 
+std::vector<FocusPlace> ViewerSession::State::focusPlaces()
+{
+    auto& view = window->view();
+    QWidget& middle = openDocument ? static_cast<QWidget&>(view) : window->startPage();
+    return {
+        placeOf(window->tree()),
+        placeOf(middle),
+        {[this] { return orvplatform::hasSideBarFocus(*sideBar); },
+         [this] { return window->isSideBarShown() && orvplatform::focusSideBar(*sideBar); }},
+        {[this] { return ribbon->widget()->isAncestorOf(QApplication::focusWidget()); },
+         [this] { return ribbon->takeFocus(); }},
+    };
+}
+
 void ViewerSession::State::connectWindow()
 {
     auto* frame = window.get();

@@ -42,6 +42,7 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent), list(new QListWidget), 
     auto* open = new QPushButton(tr("&Open..."));
     open->setDefault(true);
     open->setMinimumHeight(32);
+    setFocusProxy(open);
     open->setMinimumWidth(112);
     column->addWidget(open, 0, Qt::AlignLeft);
     column->addSpacing(24);

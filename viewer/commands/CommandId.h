@@ -35,6 +35,7 @@ enum CommandId : unsigned int {
     toggleTree,
     toggleSideBar,
     nextPane,
+    previousPane,
 
     firstPluginCommand = 40001
 };

@@ -296,8 +296,16 @@
         <translation>Nächster Bereich</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>Vom Modellbaum zur Ansicht gehen und zurück</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>Reihum vom Modellbaum zur Ansicht, zur Seitenleiste und zum Menüband gehen</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>Vorheriger Bereich</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>Reihum in der anderen Richtung gehen</translation>
     </message>
     <message>
         <source> mm</source>

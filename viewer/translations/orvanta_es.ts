@@ -296,8 +296,16 @@
         <translation>Panel siguiente</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>Pasar del árbol del modelo a la vista y viceversa</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>Recorrer el árbol del modelo, la vista, la barra lateral y la cinta de opciones</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>Panel anterior</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>Recorrer en sentido contrario</translation>
     </message>
     <message>
         <source> mm</source>

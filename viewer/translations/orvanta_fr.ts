@@ -296,8 +296,16 @@
         <translation>Volet suivant</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>Passer de l&apos;arbre du modèle à la vue et inversement</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>Passer de l'arbre du modèle à la vue, à la barre latérale puis au ruban</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>Volet précédent</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>Parcourir dans l'autre sens</translation>
     </message>
     <message>
         <source> mm</source>

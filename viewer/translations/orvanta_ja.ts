@@ -296,8 +296,16 @@
         <translation>次のペイン</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>モデルツリーとビューを行き来する</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>モデルツリー、ビュー、サイドバー、リボンを順に移動する</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>前のペイン</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>逆の順に移動する</translation>
     </message>
     <message>
         <source> mm</source>

@@ -296,8 +296,16 @@
         <translation>다음 패널</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>모델 트리와 뷰 사이를 오가기</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>모델 트리, 뷰, 사이드바, 리본을 차례로 이동</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>이전 패널</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>반대 순서로 이동</translation>
     </message>
     <message>
         <source> mm</source>

@@ -296,8 +296,16 @@
         <translation>Próximo painel</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>Ir da árvore do modelo à vista e voltar</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>Percorrer a árvore do modelo, a vista, a barra lateral e a faixa de opções</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>Painel anterior</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>Percorrer no sentido contrário</translation>
     </message>
     <message>
         <source> mm</source>

@@ -296,8 +296,16 @@
         <translation>下一个窗格</translation>
     </message>
     <message>
-        <source>Go from the model tree to the view and back</source>
-        <translation>在模型树与视图之间切换</translation>
+        <source>Go round from the model tree to the view, the side bar and the ribbon</source>
+        <translation>在模型树、视图、侧栏和功能区之间依次切换</translation>
+    </message>
+    <message>
+        <source>Previous pane</source>
+        <translation>上一个窗格</translation>
+    </message>
+    <message>
+        <source>Go round the other way</source>
+        <translation>按相反顺序切换</translation>
     </message>
     <message>
         <source> mm</source>
