@@ -349,36 +349,6 @@ TEST_F(Scene, UpdatingMakesTheFlagAgreeWithTheMatrix)
     EXPECT_TRUE(scene.resources->transforms.getValue(3).isSet);
 }
 
-TEST_F(Scene, TheBillOfMaterialsCountsUnderEachParent)
-{
-    BOMUtils::createBOM(scene.topology, scene.bom, 1);
-    EXPECT_EQ(scene.bom->reportLevel, 1);
-    std::vector<orvsg::BomItem> const tree{
-        {L"housing", 0, 1}, {L"shaft assembly", 0, 1}, {L"shaft", 1, 1}, {L"gear", 1, 2}};
-    EXPECT_EQ(scene.bom->items, tree);
-}
-
-TEST_F(Scene, ThePartLevelListsPartsAlone)
-{
-    BOMUtils::createBOM(scene.topology, scene.bom, 0);
-    EXPECT_EQ(scene.bom->reportLevel, 0);
-    std::vector<orvsg::BomItem> const parts{{L"housing", 0, 1}, {L"shaft", 0, 1}, {L"gear", 0, 2}};
-    EXPECT_EQ(scene.bom->items, parts);
-}
-
-TEST_F(Scene, ASinglePartIsItsOwnBillOfMaterials)
-{
-    auto topology = std::make_shared<orvsg::SCSceneTopo>();
-    topology->nodes.append({L"bracket", -1, {}, 0});
-    for (int const level : {0, 1}) {
-        BOMUtils::createBOM(topology, scene.bom, level);
-        EXPECT_EQ(scene.bom->items, (std::vector<orvsg::BomItem>{{L"bracket", 0, 1}}));
-    }
-    BOMUtils::createBOM(nullptr, scene.bom, 1);
-    EXPECT_TRUE(scene.bom->items.empty());
-    BOMUtils::createBOM(topology, nullptr, 0); // nothing to fill
-}
-
 TEST_F(Scene, AContainerAnswersEveryInteger)
 {
     for (int const key : strangers) {
