@@ -275,6 +275,25 @@ TEST_F(SideBar, EndsWhileAPaneIsSlidOut)
     EXPECT_EQ(panes[0].m_hWnd, nullptr);
 }
 
+TEST_F(SideBar, TakesAPaneThatIsNotInItWithIt)
+{
+    tabs->AddControl(&panes[0], L"Feeds", -1, TRUE, floatHideResize);
+    tabs->AddControl(&panes[1], L"Other", -1, TRUE, floatHideResize);
+    orvplatform::floatPane(tabs->m_hWnd, 0, true);
+    EXPECT_EQ(orvplatform::widgetOf(panes[0].m_hWnd)->window()->parentWidget(), orvplatform::widgetOf(frame.m_hWnd));
+    bar.DestroyWindow(); // the frame stays
+    EXPECT_EQ(panes[0].m_hWnd, nullptr);
+    EXPECT_EQ(panes[1].m_hWnd, nullptr);
+}
+
+TEST_F(SideBar, TakesAPaneThatIsSlidOutWithIt)
+{
+    unpin();
+    orvplatform::slidePaneOut(tabs->m_hWnd, 0);
+    bar.DestroyWindow();
+    EXPECT_EQ(panes[0].m_hWnd, nullptr);
+}
+
 TEST_F(SideBar, CopiesTheListsOfPictures)
 {
     EXPECT_EQ(tabs->GetImageListCount(), 0);
