@@ -59,11 +59,12 @@ Poster posterOf(std::shared_ptr<orv::IDocument> const& document)
     }
     constexpr double pixelsPerPoint = 2; // 144 to the inch
     Poster poster;
-    poster.width = static_cast<unsigned>(pdfwriter::fieldWidth * pixelsPerPoint);
-    poster.height = static_cast<unsigned>(pdfwriter::fieldHeight * pixelsPerPoint);
+    poster.width = static_cast<unsigned>(std::lround(pdfwriter::fieldWidth * pixelsPerPoint));
+    poster.height = static_cast<unsigned>(std::lround(pdfwriter::fieldHeight * pixelsPerPoint));
     poster.pixels.resize(std::size_t{3} * poster.width * poster.height);
     ModelAlone const alone(orv::recordOf<orvgl::SCRenderer>(document));
-    return frames->drawFrame(document, poster.width, poster.height, false, poster.pixels.data()) ? poster : Poster();
+    constexpr bool onWhite = true; // as the page, and as the views that the poster makes way for
+    return frames->drawFrame(document, poster.width, poster.height, onWhite, poster.pixels.data()) ? poster : Poster();
 }
 
 /// The current view, and the usual ones around the model.

@@ -3,6 +3,7 @@
 #include "exporters/CommandOutput.h"
 #include "exporters/ExportLibraries.h"
 #include "exporters/FullDisk.h"
+#include "exporters/pdf/PagePicture.h"
 #include "exporters/pdfwriter/View3D.h"
 #include "exporters/prc/PrcReader.h"
 #include "host/runtime/IFrameRenderer.h"
@@ -44,21 +45,6 @@ public:
     bool canDraw = true;
 };
 
-struct Pixels {
-    int width = 0;
-    int height = 0;
-    std::string bytes;
-
-    std::array<int, 3> at(double x, double y) const // 0 to 1 from the upper left corner
-    {
-        auto const column = static_cast<std::size_t>(x * (width - 1));
-        auto const row = static_cast<std::size_t>(y * (height - 1));
-        auto const* const p =
-            reinterpret_cast<unsigned char const*>(bytes.data()) + 3 * (row * static_cast<std::size_t>(width) + column);
-        return {p[0], p[1], p[2]};
-    }
-};
-
 class PdfFile : public testing::Test
 {
 protected:
@@ -93,22 +79,6 @@ protected:
         }
         return numbers;
     }
-    /// The page as poppler draws it, 72 pixels to the inch.
-    Pixels picture() const
-    {
-        auto const stem = (folder.path / "page").string();
-        outputOf("pdftoppm -r 72 -singlefile '" + file.string() + "' '" + stem + "'");
-        Pixels result;
-        std::ifstream in(stem + ".ppm", std::ios::binary);
-        std::string kind;
-        int depth = 0;
-        in >> kind >> result.width >> result.height >> depth;
-        in.get();
-        result.bytes.assign(std::istreambuf_iterator<char>(in), {});
-        EXPECT_EQ(kind, "P6");
-        return result;
-    }
-
     TestScene scene;
     TemporaryFolder folder;
     std::filesystem::path file = folder.path / "gearbox.pdf";
@@ -184,7 +154,7 @@ TEST_F(PdfFile, PosterIsTheCurrentViewWithoutWhatStandsBesideTheModel)
     EXPECT_EQ(scene.renderer->settings, orvgl::RendererSettings()) << "the view is left as it was";
     auto const rectangle = annotation().getKey("/Rect").getArrayAsRectangle();
     EXPECT_NEAR(renderer->aspect, (rectangle.urx - rectangle.llx) / (rectangle.ury - rectangle.lly), 0.01);
-    auto const page = picture();
+    auto const page = pageOf(file, 72);
     ASSERT_GT(page.width, page.height);
     auto const color = page.at(0.5, 0.5);
     EXPECT_NEAR(color[0], 200, 3);
@@ -220,7 +190,7 @@ TEST_F(PdfFile, FullDiskLeavesNothing)
 {
     prctest::FullDisk const disk(2000);
     EXPECT_EQ(loadExporter("pdfwriter")->save(file.wstring().c_str(), scene.document, nullptr, nullptr),
-              orvexp::Status::cannotWrite);
+              orvexp::Status::fileTooLarge);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path));
 }
 
