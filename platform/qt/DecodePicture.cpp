@@ -18,12 +18,25 @@ bool isInBounds(QSize size)
            qint64{4} * size.width() * size.height() <= qint64{mebibytes} * 1024 * 1024;
 }
 
-// The formats of the system's picture class. Drawings and what else the toolkit reads are not among them, nor is a file
-// that has been cut: its missing pixels would be made up.
-bool isKnownAndWhole(const QByteArray& format, const QByteArray& bytes)
+bool isKnown(const QByteArray& format)
 {
+    // Those of the system's picture class. Drawings and what else the toolkit reads are not among them.
     static const QList<QByteArray> known{"bmp", "gif", "ico", "jpeg", "png", "tiff"};
-    return known.contains(format) && !breaksOff(format, bytes);
+    return known.contains(format);
+}
+
+// By the header alone, pixels as they are stored: a camera that was held upright turns nothing. Empty where the picture
+// is refused, as a file is that has been cut: its missing pixels would be made up.
+QSize announcedSize(QImageReader& reader, const QByteArray& bytes)
+{
+    const QByteArray format = reader.format();
+    if (!isKnown(format) || breaksOff(format, bytes))
+        return {0, 0};
+    // The reader doubts a large screen of a GIF and makes it all the same.
+    const QSize told = format == "gif" ? gifSize(bytes) : reader.size();
+    // A bitmap that is stored from the top has a negative height.
+    const QSize size(told.width(), qAbs(told.height()));
+    return size.isEmpty() || !isInBounds(size) ? QSize(0, 0) : size;
 }
 } // namespace
 
@@ -33,17 +46,7 @@ QSize pictureSize(const QByteArray& bytes)
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    const QByteArray format = reader.format();
-    if (!isKnownAndWhole(format, bytes))
-        return {0, 0};
-    // The headers of the other formats may tell less than comes.
-    if (format != "jpeg" && format != "png" && format != "bmp")
-        return decodePicture(bytes).size();
-    // A bitmap that is stored from the top has a negative height.
-    const QSize size(reader.size().width(), qAbs(reader.size().height()));
-    if (size.isEmpty() || !isInBounds(size))
-        return {0, 0};
-    return reader.transformation() & QImageIOHandler::TransformationRotate90 ? size.transposed() : size;
+    return announcedSize(reader, bytes);
 }
 
 QImage decodeOnce(const QByteArray& bytes)
@@ -64,11 +67,12 @@ QImage decodePicture(const QByteArray& bytes)
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    reader.setAutoTransform(true);
-    if (!isKnownAndWhole(reader.format(), bytes) || !isInBounds(reader.size()))
+    reader.setAutoTransform(false);
+    const QSize size = announcedSize(reader, bytes);
+    if (size.isEmpty())
         return {};
     const QImage image = reader.read();
-    // Not every format tells beforehand how large its picture is, and some tell less than comes.
-    return image.isNull() || !isInBounds(image.size()) ? QImage() : image.convertToFormat(QImage::Format_ARGB32);
+    // Room has been made for what the header tells; pixels of another size are not those of this picture.
+    return image.isNull() || image.size() != size ? QImage() : image.convertToFormat(QImage::Format_ARGB32);
 }
 } // namespace orvplatform

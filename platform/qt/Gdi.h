@@ -63,13 +63,13 @@ QImage imageOf(HBITMAP bitmap); // empty for a bad handle, and for a picture tha
 QPixmap shownPicture(HBITMAP bitmap, QSize room);
 QImage imageOf(HICON icon);
 
-// Decodes BMP, GIF, ICO, JPEG, PNG and TIFF. Empty when it is none of them, the file has been cut, a side is over 16384
-// pixels, or it needs more than 64 MiB.
+// Decodes BMP, GIF, ICO, JPEG, PNG and TIFF; of several pictures in a file the first, and none is turned. Empty when it
+// is none of them, the file has been cut, a side is over 16384 pixels, it needs more than 64 MiB, or its pixels come in
+// another size than its header tells.
 QImage decodePicture(const QByteArray& bytes);
 // The same for pictures that are asked for again and again, as a program's own are: decoded once while there is room.
 QImage decodeOnce(const QByteArray& bytes);
-// The size of what decodePicture gives, by the header alone in the formats whose headers can be relied on; empty where
-// the picture is refused.
+// The size of what decodePicture gives, by the header alone; empty where the picture is refused for what stands there.
 QSize pictureSize(const QByteArray& bytes);
 
 // Cuts a row of pictures of one size; an image that is no such row is one picture. `mask` becomes transparent.

@@ -77,42 +77,55 @@ bool jpegBreaksOff(const QByteArray& bytes)
     return true;
 }
 
-// The first picture counts; others that follow it are never shown.
-bool gifBreaksOff(const QByteArray& bytes)
+void skipGifColours(Cursor& cursor, quint8 flags)
+{
+    if (flags & 0x80)
+        cursor.skip(qsizetype{3} << ((flags & 7) + 1));
+}
+
+void skipGifParts(Cursor& cursor)
+{
+    while (const quint8 length = cursor.byte())
+        cursor.skip(length);
+}
+
+enum class GifBlock { picture, none, foreign };
+
+// Puts the cursor behind the mark of the first picture. It alone counts; others that follow it are never shown.
+GifBlock goToGifPicture(Cursor& blocks)
 {
     constexpr quint8 extension = 0x21;
     constexpr quint8 picture = 0x2C;
-    const auto skipColours = [](Cursor& cursor, quint8 flags) {
-        if (flags & 0x80)
-            cursor.skip(qsizetype{3} << ((flags & 7) + 1));
-    };
-    const auto skipParts = [](Cursor& cursor) {
-        while (const quint8 length = cursor.byte())
-            cursor.skip(length);
-    };
     constexpr qsizetype screenFlags = 10;
-    Cursor blocks(bytes, screenFlags);
+    blocks.skip(screenFlags);
     const quint8 flags = blocks.byte();
     blocks.skip(2);
-    skipColours(blocks, flags);
+    skipGifColours(blocks, flags);
     while (!blocks.isAtEnd()) {
         const quint8 kind = blocks.byte();
-        if (kind == extension) {
-            blocks.skip(1);
-            skipParts(blocks);
-        } else if (kind == picture) {
-            constexpr qsizetype placeAndSize = 8;
-            blocks.skip(placeAndSize);
-            skipColours(blocks, blocks.byte());
-            constexpr qsizetype codeSize = 1;
-            blocks.skip(codeSize);
-            skipParts(blocks);
-            return blocks.isBehindEnd();
-        } else {
-            return false; // not as it should be; that is the decoder's to judge
-        }
+        if (kind == picture)
+            return GifBlock::picture;
+        if (kind != extension)
+            return GifBlock::foreign;
+        blocks.skip(1);
+        skipGifParts(blocks);
     }
-    return true;
+    return GifBlock::none;
+}
+
+bool gifBreaksOff(const QByteArray& bytes)
+{
+    Cursor blocks(bytes, 0);
+    const GifBlock first = goToGifPicture(blocks);
+    if (first != GifBlock::picture)
+        return first == GifBlock::none; // a foreign block is not as it should be; that is the decoder's to judge
+    constexpr qsizetype placeAndSize = 8;
+    blocks.skip(placeAndSize);
+    skipGifColours(blocks, blocks.byte());
+    constexpr qsizetype codeSize = 1;
+    blocks.skip(codeSize);
+    skipGifParts(blocks);
+    return blocks.isBehindEnd();
 }
 
 bool bmpBreaksOff(const QByteArray& bytes)
@@ -146,5 +159,22 @@ bool breaksOff(const QByteArray& format, const QByteArray& bytes)
     if (format == "gif")
         return gifBreaksOff(bytes);
     return format == "bmp" && bmpBreaksOff(bytes);
+}
+
+QSize gifSize(const QByteArray& bytes)
+{
+    constexpr qsizetype screenSize = 6;
+    Cursor screen(bytes, screenSize);
+    QSize size;
+    size.setWidth(static_cast<int>(screen.littleEndian(2)));
+    size.setHeight(static_cast<int>(screen.littleEndian(2)));
+    Cursor picture(bytes, 0);
+    if (goToGifPicture(picture) != GifBlock::picture)
+        return {0, 0};
+    const auto left = static_cast<int>(picture.littleEndian(2));
+    const auto top = static_cast<int>(picture.littleEndian(2));
+    const auto width = static_cast<int>(picture.littleEndian(2));
+    const auto height = static_cast<int>(picture.littleEndian(2));
+    return {size.width() > 0 ? size.width() : left + width, size.height() > 0 ? size.height() : top + height};
 }
 } // namespace orvplatform

@@ -1,7 +1,8 @@
 #pragma once
-// Whether a picture file has been cut, told by its container alone.
+// What the container of a picture file tells by itself: whether the file has been cut, and how large a GIF is.
 
 #include <QByteArray>
+#include <QSize>
 
 namespace orvplatform
 {
@@ -9,4 +10,8 @@ namespace orvplatform
 // none that can be read. `format` is the image reader's name of it; of a format that isn't known here nothing is said.
 // Layouts: PNG (ISO/IEC 15948), JPEG (ITU-T T.81), GIF89a, and the Windows bitmap's BITMAPINFOHEADER.
 bool breaksOff(const QByteArray& format, const QByteArray& bytes);
+
+// The pixels of a GIF's screen. A side that it doesn't tell (0) reaches to the far edge of the first picture on it.
+// Empty where the file holds no picture.
+QSize gifSize(const QByteArray& bytes);
 } // namespace orvplatform

@@ -4,8 +4,10 @@
 #include "platform/Process.h"
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Native.h"
+#include "support/PictureFiles.h"
 
 #include <QBuffer>
+#include <QImageReader>
 #include <QPixmap>
 #include <QSize>
 
@@ -13,6 +15,8 @@
 #include <map>
 #include <utility>
 #include <vector>
+
+using namespace orvtest;
 
 namespace
 {
@@ -39,6 +43,8 @@ protected:
         HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), L"PNG");
         return {static_cast<const char*>(LockResource(LoadResource(module, found))), SizeofResource(module, found)};
     }
+    static QSize sizeOf(const CImage& image) { return {image.GetWidth(), image.GetHeight()}; }
+    static QImage pixelsOf(const CImage& image) { return orvplatform::pixmapOf(static_cast<HBITMAP>(image)).toImage(); }
 };
 } // namespace
 
@@ -79,6 +85,89 @@ TEST_F(Picture, IsDecodedWhenItIsAboutToBeSeen)
     EXPECT_EQ(description.bmBitsPixel, 32);
 }
 
+TEST_F(Picture, OfWhicheverFormatIsMeasuredByItsHeaderAlone)
+{
+    QImage source(36, 18, QImage::Format_RGB32);
+    source.fill(Qt::darkCyan);
+    constexpr char quantizationTables = '\xDB';
+    std::string icon = encoded(source, "ICO");
+    constexpr std::size_t bitsOfIcon = 22 + 14; // of a pixel, in the header behind the directory
+    icon[bitsOfIcon] = 7;
+    std::string tiff = encoded(source, "TIFF");
+    constexpr std::size_t firstStrip = 8;
+    tiff.replace(firstStrip, 40, 40, '\xFF');
+    const std::map<std::string, std::string> files{
+        {"JPEG", withoutSegments(encoded(source, "JPEG"), quantizationTables)},
+        {"ICO", icon},
+        {"TIFF", tiff},
+        {"GIF", gifFile(QSize(36, 18), {}, 13)}};
+    for (const auto& [format, unreadable] : files) {
+        CImage image;
+        ASSERT_EQ(load(image, unreadable), S_OK) << format;
+        EXPECT_EQ(sizeOf(image), QSize(36, 18)) << format;
+        EXPECT_TRUE(pixelsOf(image).isNull()) << format;
+    }
+    for (const char* format : {"JPEG", "ICO", "TIFF", "BMP", "PNG"}) {
+        CImage image;
+        ASSERT_EQ(load(image, encoded(source, format)), S_OK) << format;
+        EXPECT_EQ(sizeOf(image), QSize(36, 18)) << format;
+        EXPECT_EQ(pixelsOf(image).size(), QSize(36, 18)) << format;
+    }
+}
+
+TEST_F(Picture, OfAGifIsAsLargeAsItsScreen)
+{
+    struct {
+        QSize screen;
+        QPoint place; // of the picture on it
+        QSize size;
+    } const cases[] = {{{2, 2}, {0, 0}, {2, 2}},       {{10, 7}, {3, 3}, {10, 7}},    {{0, 0}, {0, 0}, {2, 2}},
+                       {{0, 0}, {3, 5}, {5, 7}},       {{9, 0}, {3, 5}, {9, 7}},      {{0, 9}, {3, 5}, {5, 9}},
+                       {{3000, 2}, {0, 0}, {3000, 2}}, {{2, 3000}, {0, 0}, {2, 3000}}};
+    for (const auto& [screen, place, size] : cases) {
+        CImage image;
+        ASSERT_EQ(load(image, gifFile(screen, place)), S_OK);
+        EXPECT_EQ(sizeOf(image), size);
+        EXPECT_EQ(pixelsOf(image).size(), size) << "as it is drawn";
+    }
+}
+
+TEST_F(Picture, IsNotShownWhereItsPixelsComeInAnotherSize)
+{
+    QImage source(36, 18, QImage::Format_RGB32);
+    source.fill(Qt::darkCyan);
+    std::string icon = encoded(source, "ICO");
+    constexpr std::size_t widthInDirectory = 6;
+    icon[widthInDirectory] = 48;
+    CImage image;
+    ASSERT_EQ(load(image, icon), S_OK);
+    EXPECT_EQ(sizeOf(image), QSize(48, 18));
+    EXPECT_TRUE(pixelsOf(image).isNull());
+}
+
+TEST_F(Picture, IsNotTurnedAsItsCameraWasHeld)
+{
+    QImage source(360, 180, QImage::Format_RGB32);
+    source.fill(Qt::blue);
+    for (int y = 0; y < source.height(); ++y)
+        for (int x = 0; x < source.width() / 2; ++x)
+            source.setPixelColor(x, y, Qt::red);
+    for (const char orientation : {'\1', '\3', '\6', '\x8'}) {
+        const std::string bytes = withOrientation(encoded(source, "JPEG"), orientation);
+        QByteArray data = QByteArray::fromStdString(bytes);
+        QBuffer buffer(&data);
+        const QImageReader reader(&buffer);
+        ASSERT_EQ(reader.transformation() != QImageIOHandler::TransformationNone, orientation != 1);
+        CImage image;
+        ASSERT_EQ(load(image, bytes), S_OK);
+        EXPECT_EQ(sizeOf(image), QSize(360, 180));
+        const QImage shown = pixelsOf(image);
+        ASSERT_EQ(shown.size(), QSize(360, 180));
+        EXPECT_GT(shown.pixelColor(90, 90).red(), 200) << "the left half";
+        EXPECT_GT(shown.pixelColor(270, 90).blue(), 200) << "the right half";
+    }
+}
+
 TEST_F(Picture, IsDrawnNoLargerThanItsRoomNeeds)
 {
     CImage image;
@@ -108,12 +197,8 @@ TEST_F(Picture, IsRefusedWhereverItsFileHasBeenCut)
     source.fill(Qt::darkCyan);
     source.setPixelColor(5, 5, Qt::red);
     std::map<std::string, std::string> files;
-    for (const char* format : {"PNG", "JPEG", "BMP"}) {
-        QBuffer buffer;
-        buffer.open(QIODevice::WriteOnly);
-        ASSERT_TRUE(source.save(&buffer, format));
-        files[format] = buffer.data().toStdString();
-    }
+    for (const char* format : {"PNG", "JPEG", "BMP"})
+        files[format] = encoded(source, format);
     // One with a table of colours, an extension and a picture of 2 by 2 pixels.
     files["GIF"] = std::string("GIF89a\x02\x00\x02\x00\x80\x00\x00\x00\x00\x00\xFF\xFF\xFF"
                                "\x21\xF9\x04\x00\x00\x00\x00\x00"
@@ -207,13 +292,9 @@ TEST_F(Picture, IsShownAlsoWhereABitmapIsStoredFromTheTop)
 TEST_F(Picture, IsRefusedWhenItIsLargerThanItsHeaderSays)
 {
     // The reader says 2 by 2 pixels and makes a picture 16386 pixels high. Found by fuzzing.
-    std::string gif("GIF89a\x02\x00\x02\x40\x80\x00\x00\x00\x00\x00\xFF\xFF\xFF"
-                    "\x2C\x00\x00\x00\x00\x02\x00\x02\x00\x00\x02\x03\x44\x34\x05\x00\x3B",
-                    36);
     CImage image;
-    EXPECT_EQ(load(image, gif), E_FAIL);
-    gif[9] = 0;
-    EXPECT_EQ(load(image, gif), S_OK) << "of its announced size it is a picture";
+    EXPECT_EQ(load(image, gifFile(QSize(2, 16386))), E_FAIL);
+    EXPECT_EQ(load(image, gifFile(QSize(2, 2))), S_OK) << "of its announced size it is a picture";
 }
 
 TEST_F(Picture, ComesFromAPngResource)

@@ -4,6 +4,7 @@
 #include "feed/FeedWriter.h"
 #include "feed/Thumbnail.h"
 #include "platform/text/Text.h"
+#include "support/LittleEndian.h"
 
 #include <json/json.h>
 
@@ -12,16 +13,6 @@
 
 namespace orvtest
 {
-
-/// A number's bytes, the lowest first.
-inline std::string littleEndian(std::size_t value, int count)
-{
-    std::string bytes;
-    for (int i = 0; i < count; ++i) {
-        bytes += static_cast<char>(value >> (8 * i) & 0xFF);
-    }
-    return bytes;
-}
 
 /// A Windows bitmap of that size, white: a header of 54 bytes, then lines of blue, green and red from the lowest one
 /// up, each filled up to whole groups of four bytes.
