@@ -26,6 +26,13 @@ QIcon iconAt(HIMAGELIST list, int index)
     return QIcon(QPixmap::fromImage(list->pictures[static_cast<std::size_t>(index)]));
 }
 
+// One index stands for both lists. Where one of them ends before it, the other's picture is better than none.
+QIcon iconAt(HIMAGELIST list, HIMAGELIST other, int index)
+{
+    const QIcon icon = iconAt(list, index);
+    return icon.isNull() ? iconAt(other, index) : icon;
+}
+
 BOOL append(CImageList& own, HIMAGELIST list, int size, COLORREF mask)
 {
     if (ImageList_GetImageCount(list) == 0 || (!own.m_hImageList && !own.Create(size, size, ILC_COLOR32, 1, 1)))
@@ -62,12 +69,13 @@ void CMFCOutlookBarTabCtrl::AddControl(CWnd* control, LPCWSTR title, int image, 
 {
     if (!control || !control->m_hWnd)
         return;
-    HWND wrapper = orvplatform::addPane(
-        m_hWnd, control->m_hWnd, title ? title : L"", iconAt(toolbarImages.m_hImageList, image),
-        detachable && (style & AFX_CBRS_FLOAT), (style & AFX_CBRS_AUTOHIDE) != 0, (style & AFX_CBRS_RESIZE) != 0);
+    HWND wrapper =
+        orvplatform::addPane(m_hWnd, control->m_hWnd, title ? title : L"", detachable && (style & AFX_CBRS_FLOAT),
+                             (style & AFX_CBRS_AUTOHIDE) != 0, (style & AFX_CBRS_RESIZE) != 0);
     if (!wrapper)
         return;
     tabs.push_back({control->m_hWnd, wrapper, image, style});
+    showImages();
     if (activeTab < 0)
         SetActiveTab(0);
 }
@@ -129,16 +137,26 @@ int CMFCOutlookBarTabCtrl::GetToolbarImageListCount() const
 
 BOOL CMFCOutlookBarTabCtrl::AddImageList(_IMAGELIST* list, int size, COLORREF mask)
 {
-    return append(images, list, size, mask);
+    const BOOL added = append(images, list, size, mask);
+    showImages();
+    return added;
 }
 
 BOOL CMFCOutlookBarTabCtrl::AddToolbarImageList(_IMAGELIST* list, int size, COLORREF mask)
 {
     const BOOL added = append(toolbarImages, list, size, mask);
-    for (int i = 0; i < GetTabsNum(); ++i)
-        orvplatform::setPaneIcon(m_hWnd, i,
-                                 iconAt(toolbarImages.m_hImageList, tabs[static_cast<std::size_t>(i)].image));
+    showImages();
     return added;
+}
+
+void CMFCOutlookBarTabCtrl::showImages() const
+{
+    HIMAGELIST large = images.m_hImageList;
+    HIMAGELIST small = toolbarImages.m_hImageList;
+    for (int i = 0; i < GetTabsNum(); ++i) {
+        const int image = tabs[static_cast<std::size_t>(i)].image;
+        orvplatform::setPaneIcons(m_hWnd, i, iconAt(large, small, image), iconAt(small, large, image));
+    }
 }
 
 CMFCOutlookBar::CMFCOutlookBar() = default;

@@ -16,7 +16,7 @@ public:
     ~CMFCOutlookBarTabCtrl() override;
 
     BOOL Create(const RECT& rect, CWnd* parent, UINT id);
-    // A new tab for a window. `image` counts in the picture lists, -1 for none; the style is made of AFX_CBRS_FLOAT,
+    // A new tab for a window. `image` counts in both picture lists, -1 for none; the style is made of AFX_CBRS_FLOAT,
     // _AUTOHIDE, _RESIZE and _CLOSE. A detachable control can be floated by the user when the style has AFX_CBRS_FLOAT.
     void AddControl(CWnd* control, LPCWSTR title, int image = -1, BOOL detachable = TRUE,
                     DWORD style = AFX_CBRS_FLOAT | AFX_CBRS_CLOSE | AFX_CBRS_RESIZE | AFX_CBRS_AUTOHIDE);
@@ -28,8 +28,8 @@ public:
     CWnd* GetActiveWnd() const;
     BOOL SetActiveTab(int index);
 
-    // Pictures of tabs at a large and at a small size, of which the bar shows the small one. The lists' pictures are
-    // copied; `size` is their side in pixels, `mask` a colour that is transparent in them.
+    // Pictures for the tabs, and smaller ones for the buttons of the collapsed bar; each is shown at its own size. The
+    // lists' pictures are copied; `size` is their side in pixels, `mask` a colour that is transparent in them.
     int GetImageListCount() const;
     int GetToolbarImageListCount() const;
     BOOL AddImageList(_IMAGELIST* list, int size, COLORREF mask);
@@ -49,6 +49,7 @@ private:
         DWORD style;
     };
     void activate(int index);
+    void showImages() const;
 
     std::vector<Tab> tabs;
     int activeTab = -1;

@@ -146,9 +146,14 @@ private:
 };
 } // namespace
 
+int scaled(int pixels)
+{
+    return qRound(pixels * logicalDpi() / 96.0);
+}
+
 int sideBarWidth()
 {
-    return qRound(320 * logicalDpi() / 96.0);
+    return scaled(320);
 }
 
 const Theme& theme()

@@ -38,7 +38,8 @@ void applyLook(QApplication& application);
 // A colour that somebody chose for a light background, made readable on the theme's.
 QColor readable(QColor colour);
 
-int sideBarWidth(); // pixels at the display's resolution: its forms grow with their font
+int scaled(int pixels); // a measure of the plain resolution at the display's
+int sideBarWidth();     // pixels at the display's resolution: its forms grow with their font
 
 namespace measures // pixels, on a grid of four
 {
@@ -48,6 +49,6 @@ inline constexpr int radius = 4;
 inline constexpr int cardTitle = 28;
 inline constexpr int largeIcon = 32;
 inline constexpr int smallIcon = 16;
-inline constexpr int foldedSideBar = 36;
+inline constexpr int foldedSideBar = 36; // for small icons
 } // namespace measures
 } // namespace orvplatform

@@ -20,7 +20,7 @@ public:
     {
         const auto* tabs = findChild<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
         const auto* panes = dynamic_cast<const PaneTabs*>(tabs);
-        return {panes && panes->isFolded() ? measures::foldedSideBar : -1, -1};
+        return {panes && panes->isFolded() ? panes->stripWidth() : -1, -1};
     }
     QSize minimumSizeHint() const override { return {sizeHint().width(), -1}; }
 };
@@ -66,8 +66,7 @@ HWND makeOutlookTabs(const CREATESTRUCTW&, QWidget* parent)
     return attachHandle(new PaneTabs(parent), outlookTabsClass, nullptr);
 }
 
-HWND addPane(HWND tabs, HWND control, const std::wstring& title, const QIcon& icon, bool canFloat, bool canFold,
-             bool canResize)
+HWND addPane(HWND tabs, HWND control, const std::wstring& title, bool canFloat, bool canFold, bool canResize)
 {
     PaneTabs* widget = tabsWidget(tabs);
     if (!widget || !isLive(control))
@@ -91,7 +90,6 @@ HWND addPane(HWND tabs, HWND control, const std::wstring& title, const QIcon& ic
     HWND window = attachHandle(frame, L"OrvPaneFrame", std::make_unique<FrameBehaviour>());
     window->style = WS_CHILD | WS_VISIBLE;
     auto* opener = new QToolButton;
-    opener->setIcon(icon);
     const int index = static_cast<int>(widget->panes.size());
     widget->addOpener(*opener, index);
     widget->panes.push_back({frame, page, note, opener});
@@ -101,7 +99,7 @@ HWND addPane(HWND tabs, HWND control, const std::wstring& title, const QIcon& ic
     {
         // The first tab becomes the current one by being added; that is told once the pane is complete.
         const QSignalBlocker quiet(widget->bar);
-        widget->bar.addTab(icon, QString());
+        widget->bar.addTab(QString());
     }
     SetWindowTextW(window, title.c_str());
     MoveWindow(control, 0, 0, frame->width(), frame->height(), TRUE);
@@ -109,13 +107,10 @@ HWND addPane(HWND tabs, HWND control, const std::wstring& title, const QIcon& ic
     return window;
 }
 
-void setPaneIcon(HWND tabs, int index, const QIcon& icon)
+void setPaneIcons(HWND tabs, int index, const QIcon& tab, const QIcon& strip)
 {
-    PaneTabs* widget = tabsWidget(tabs);
-    if (PaneTabs::Pane* pane = widget ? widget->at(index) : nullptr) {
-        widget->bar.setTabIcon(index, icon);
-        pane->opener->setIcon(icon);
-    }
+    if (PaneTabs* widget = tabsWidget(tabs))
+        widget->setIcons(index, tab, strip);
 }
 
 void showPane(HWND tabs, int index)

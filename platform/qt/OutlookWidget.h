@@ -21,9 +21,9 @@ HWND makeOutlookBar(const CREATESTRUCTW& create, QWidget* parent);
 HWND makeOutlookTabs(const CREATESTRUCTW& create, QWidget* parent);
 
 // Puts a control into a frame of its own behind a new tab. Returns the frame, whose text is the tab's title.
-HWND addPane(HWND tabs, HWND control, const std::wstring& title, const QIcon& icon, bool canFloat, bool canFold,
-             bool canResize);
-void setPaneIcon(HWND tabs, int index, const QIcon& icon);
+HWND addPane(HWND tabs, HWND control, const std::wstring& title, bool canFloat, bool canFold, bool canResize);
+// The picture in the tab and the one in the strip, each shown at its own size; either may be null.
+void setPaneIcons(HWND tabs, int index, const QIcon& tab, const QIcon& strip);
 void showPane(HWND tabs, int index);
 void onPaneChosen(HWND tabs, std::function<void(int index)> chosen);
 void floatPane(HWND tabs, int index, bool floating);

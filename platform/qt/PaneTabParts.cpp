@@ -14,15 +14,25 @@ namespace
 template <class Draw>
 QIcon drawn(Draw draw)
 {
-    QPixmap picture(measures::smallIcon, measures::smallIcon);
+    const int side = scaled(measures::smallIcon);
+    QPixmap picture(side, side);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(double(side) / measures::smallIcon, double(side) / measures::smallIcon);
     painter.setPen(QPen(theme().mutedText, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     draw(painter);
     return picture;
 }
 } // namespace
+
+QSize sizeOf(const QIcon& icon)
+{
+    QSize size(0, 0);
+    for (const QSize& each : icon.availableSizes())
+        size = size.expandedTo(each);
+    return size;
+}
 
 QIcon floatIcon()
 {

@@ -12,6 +12,8 @@ namespace orvplatform
 QIcon floatIcon();
 QIcon pinIcon(bool pinned);
 
+QSize sizeOf(const QIcon& icon); // of the largest picture in it, pixels; nothing for no picture
+
 // Is drawn to make slid-out panes wider or narrower. Tells where the pointer is: x on the screen, pixels.
 class Edge final : public QWidget
 {

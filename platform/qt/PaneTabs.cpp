@@ -69,8 +69,8 @@ PaneTabs::PaneTabs(QWidget* parent)
     icons->setContentsMargins(measures::grid, measures::grid, measures::grid, measures::grid);
     icons->setSpacing(measures::grid);
     icons->addStretch(1);
-    strip->setFixedWidth(measures::foldedSideBar);
     strip->hide();
+    fitIcons();
     showPin();
     hover.setSingleShot(true);
     hover.setInterval(300);
@@ -209,29 +209,6 @@ bool PaneTabs::isSlidOut() const
     return isFolded() && opened && opened->parentWidget() != this && !opened->isHidden();
 }
 
-bool PaneTabs::takeFocus()
-{
-    Pane* pane = at(bar.currentIndex());
-    if (!pane || !pane->frame)
-        return false;
-    if (pane->frame->isWindow()) {
-        pane->frame->raise();
-        pane->frame->activateWindow();
-    } else {
-        slideOut(bar.currentIndex(), true); // does nothing while the panes are pinned
-    }
-    focusWithin(pane->frame);
-    return true;
-}
-
-bool PaneTabs::hasFocusInside() const
-{
-    const QWidget* focus = QApplication::focusWidget();
-    return focus && (contains(focus) || std::any_of(panes.begin(), panes.end(), [focus](const Pane& each) {
-                         return each.frame && each.frame->isAncestorOf(focus);
-                     }));
-}
-
 void PaneTabs::choose(int index)
 {
     if (index < 0)
@@ -258,7 +235,6 @@ int PaneTabs::indexOf(const PaneFrame* frame) const
 void PaneTabs::addOpener(QToolButton& opener, int index)
 {
     static_cast<QVBoxLayout*>(strip->layout())->insertWidget(index, &opener);
-    opener.setIconSize({measures::smallIcon + measures::grid, measures::smallIcon + measures::grid});
     opener.setAutoRaise(true);
     opener.setFocusPolicy(Qt::TabFocus);
     opener.installEventFilter(this);
@@ -267,6 +243,43 @@ void PaneTabs::addOpener(QToolButton& opener, int index)
         const bool again = isSlidOut() && taken && bar.currentIndex() == index;
         again ? slideIn() : slideOut(index, true);
     });
+}
+
+void PaneTabs::setIcons(int index, const QIcon& inTab, const QIcon& inStrip)
+{
+    if (Pane* pane = at(index)) {
+        bar.setTabIcon(index, inTab);
+        pane->opener->setIcon(inStrip);
+        fitIcons();
+    }
+}
+
+int PaneTabs::stripWidth() const
+{
+    return strip->width();
+}
+
+void PaneTabs::fitIcons()
+{
+    const int own = scaled(measures::smallIcon);
+    for (QToolButton* button : {&floatButton, &pinButton})
+        button->setIconSize({own, own});
+    // A list's pictures have the display's step already.
+    QSize inTab(1, 1);
+    QSize inStrip(measures::smallIcon, measures::smallIcon);
+    for (std::size_t i = 0; i < panes.size(); ++i) {
+        inTab = inTab.expandedTo(sizeOf(bar.tabIcon(static_cast<int>(i))));
+        inStrip = inStrip.expandedTo(sizeOf(panes[i].opener->icon()));
+    }
+    bar.setIconSize(inTab);
+    const int side = std::max(inStrip.width(), inStrip.height());
+    strip->setFixedWidth(side * measures::foldedSideBar / measures::smallIcon);
+    for (const Pane& pane : panes) {
+        pane.opener->setIconSize(inStrip);
+        pane.opener->setFixedSize(strip->width() - 2 * measures::grid, strip->width() - 2 * measures::grid);
+    }
+    arrange();
+    updateGeometry();
 }
 
 void PaneTabs::updateButtons()
@@ -286,85 +299,12 @@ void PaneTabs::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
-bool PaneTabs::eventFilter(QObject* watched, QEvent* event)
-{
-    auto* widget = qobject_cast<QWidget*>(watched);
-    switch (event->type()) {
-    case QEvent::Enter:
-        for (std::size_t i = 0; i < panes.size(); ++i)
-            if (panes[i].opener == watched) {
-                hovered = static_cast<int>(i);
-                hover.start();
-            }
-        break;
-    case QEvent::Leave:
-        if (widget && widget->parentWidget() == strip)
-            hover.stop();
-        if (isSlidOut() && !taken)
-            leave.start();
-        break;
-    case QEvent::Move:
-    case QEvent::Resize:
-        if (isSlidOut() && widget && widget->isAncestorOf(this))
-            arrange();
-        break;
-    case QEvent::MouseButtonPress:
-        if (isSlidOut() && widget && widget->window() == window())
-            contains(widget) ? void(taken = true) : slideIn();
-        break;
-    case QEvent::FocusIn:
-        if (isSlidOut() && taken && widget && !widget->isWindow() && widget->window() == window() && !contains(widget))
-            slideIn();
-        break;
-    case QEvent::KeyPress:
-        if (isSlidOut() && widget && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && contains(widget)) {
-            slideIn();
-            return true;
-        }
-        break;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
 void PaneTabs::showPin()
 {
     pinButton.setIcon(pinIcon(!isFolded()));
     const QString tip = isFolded() ? tr("Keep the side bar open") : tr("Hide the side bar while it is not used");
     pinButton.setToolTip(tip);
     pinButton.setAccessibleName(tip);
-}
-
-void PaneTabs::focusWithin(const QWidget* frame)
-{
-    if (QWidget* last = frame ? frame->focusWidget() : nullptr; last && last->isVisible() && last->isEnabled())
-        return last->setFocus(Qt::TabFocusReason);
-    for (QWidget* each = frame ? frame->nextInFocusChain() : nullptr; each && each != frame;
-         each = each->nextInFocusChain())
-        if (frame->isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) && each->isVisible() && each->isEnabled())
-            return each->setFocus(Qt::TabFocusReason);
-    bar.setFocus(Qt::TabFocusReason);
-}
-
-bool PaneTabs::contains(const QWidget* widget) const
-{
-    return widget == opened || opened->isAncestorOf(widget) || widget == strip || strip->isAncestorOf(widget);
-}
-
-bool PaneTabs::isUsed() const
-{
-    const QWidget* focus = QApplication::focusWidget();
-    return !isSlidOut() || taken || opened->underMouse() || strip->underMouse() ||
-           (focus && opened->isAncestorOf(focus)) || QApplication::activePopupWidget();
-}
-
-void PaneTabs::stopWatching()
-{
-    qApp->removeEventFilter(this);
-    hover.stop();
-    leave.stop();
-    taken = false;
 }
 
 void PaneTabs::arrange()

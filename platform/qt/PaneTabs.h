@@ -10,6 +10,7 @@
 #include <vector>
 
 QT_BEGIN_NAMESPACE
+class QIcon;
 class QLabel;
 class QStackedWidget;
 class QTabBar;
@@ -50,6 +51,8 @@ public:
     Pane* at(int index); // null outside
     int indexOf(const PaneFrame* frame) const;
     void addOpener(QToolButton& opener, int index);
+    void setIcons(int index, const QIcon& inTab, const QIcon& inStrip);
+    int stripWidth() const; // pixels: follows its largest picture
     void choose(int index);
     void updateButtons();
 
@@ -80,6 +83,7 @@ private:
     bool isUsed() const;
     void arrange();
     void drawEdge(int globalX);
+    void fitIcons();
     void focusWithin(const QWidget* frame);
     void showPin();
     void stopWatching();
