@@ -18,6 +18,13 @@ class TextWithLinks final : public Behaviour
 public:
     void setText(HWND window, const QString& text) override
     {
+        written = text;
+        show(*static_cast<QLabel*>(window->widget));
+    }
+
+    // The theme's colours stand within the shown text.
+    void show(QLabel& label)
+    {
         static const QRegularExpression link(QStringLiteral("<a(\\s[^>]*)?>(.*?)</a>"),
                                              QRegularExpression::CaseInsensitiveOption |
                                                  QRegularExpression::DotMatchesEverythingOption);
@@ -26,17 +33,17 @@ public:
         addresses.clear();
         QString html;
         qsizetype at = 0;
-        for (auto matches = link.globalMatch(text); matches.hasNext();) {
+        for (auto matches = link.globalMatch(written); matches.hasNext();) {
             const QRegularExpressionMatch match = matches.next();
-            html += plain(text.mid(at, match.capturedStart() - at));
+            html += plain(written.mid(at, match.capturedStart() - at));
             html += QStringLiteral("<a href=\"%1\" style=\"color: %2\">%3</a>")
                         .arg(addresses.size())
-                        .arg(theme().accentText.name(), plain(unbroken(match.captured(2), *window->widget)));
+                        .arg(theme().accentText.name(), plain(unbroken(match.captured(2), label)));
             addresses << href.match(match.captured(1)).captured(1);
             at = match.capturedEnd();
         }
-        html += plain(text.mid(at));
-        static_cast<QLabel*>(window->widget)->setText(html);
+        html += plain(written.mid(at));
+        label.setText(html);
     }
 
     void click(HWND window, int index)
@@ -54,6 +61,8 @@ public:
     QStringList addresses;
 
 private:
+    QString written;
+
     // An address goes to the next line as a whole where it has the room; a longer one is broken, but not before its
     // host's name.
     static QString unbroken(QString text, const QWidget& label)
@@ -67,6 +76,21 @@ private:
     {
         // Runs of blanks stay what they are.
         return text.toHtmlEscaped().replace(QLatin1String("  "), QLatin1String("&nbsp; "));
+    }
+};
+
+class LinkLabel final : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    TextWithLinks* links = nullptr;
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        QLabel::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange && links)
+            links->show(*this);
     }
 };
 
@@ -103,12 +127,13 @@ WebLink* webLink(HWND window)
 
 HWND makeTextWithLinks(const CREATESTRUCTW&, QWidget* parent)
 {
-    auto* label = new QLabel(parent);
+    auto* label = new LinkLabel(parent);
     label->setTextFormat(Qt::RichText);
     label->setWordWrap(true);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     label->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     HWND window = attachHandle(label, WC_LINK, std::make_unique<TextWithLinks>());
+    label->links = static_cast<TextWithLinks*>(window->behaviour.get());
     QObject::connect(label, &QLabel::linkActivated, window, [window](const QString& index) {
         static_cast<TextWithLinks*>(window->behaviour.get())->click(window, index.toInt());
     });

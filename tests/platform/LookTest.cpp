@@ -1,5 +1,6 @@
 #include "Form.h"
 
+#include "platform/qt/LinkControl.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
 #include "platform/qt/RibbonWidget.h"
@@ -51,6 +52,23 @@ TEST_F(Look, ColoursTheRibbonAnew)
     ribbon.Create(&frame);
     useSystemColour(QColor(0x202020));
     EXPECT_EQ(widgetOf(ribbon.m_hWnd)->palette().color(QPalette::Window), theme().surface);
+}
+
+TEST_F(Look, ColoursTheLinksOfATextAnew)
+{
+    CWnd frame;
+    frame.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 300, 100), nullptr, 0);
+    HWND text = CreateWindowExW(0, L"SysLink", L"See <a href=\"http://a.test\">that</a>", WS_CHILD, 0, 0, 200, 50,
+                                frame.m_hWnd, nullptr, nullptr, nullptr);
+    const auto* label = qobject_cast<QLabel*>(widgetOf(text));
+    ASSERT_NE(label, nullptr);
+    const QColor light = theme().accentText;
+    EXPECT_TRUE(label->text().contains(light.name()));
+    useSystemColour(QColor(0x202020));
+    ASSERT_NE(theme().accentText, light);
+    EXPECT_TRUE(label->text().contains(theme().accentText.name())) << label->text().toStdString();
+    EXPECT_FALSE(label->text().contains(light.name()));
+    EXPECT_TRUE(followLink(text, L"http://a.test"));
 }
 
 TEST_F(Look, TakesTheUsersWordBeforeTheSystems)
