@@ -29,7 +29,7 @@ void setExceptionHandler(std::function<void(const std::string&)> handler);
 // Runs the function behind the same barrier; false when it threw.
 bool guarded(const std::function<void()>& function);
 
-// A sentence that says why the last LoadLibraryW of this thread failed.
+// Why the last LoadLibraryW of this thread failed: the bare reason, to stand in a sentence that names the library.
 std::wstring lastModuleError();
 // Makes GetModuleHandleW(name) answer with a module whose resources are those of the file (a library or a .res file).
 // For programs that contain the code of a library; false when the file can't be read.

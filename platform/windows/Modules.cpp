@@ -55,6 +55,14 @@ std::string inDllDirectory(const std::wstring& name)
     return std::filesystem::exists(file, error) ? file : std::string();
 }
 
+// What the system's loader says of a file, without the file's own path in front. A library that it depends on stays
+// named.
+std::string withoutFile(const std::string& reason, const std::string& file)
+{
+    const std::string own = file + ": ";
+    return reason.compare(0, own.size(), own) == 0 ? reason.substr(own.size()) : reason;
+}
+
 // Loads a library and what it depends on. The system's loader knows nothing of the directory that SetDllDirectoryW
 // named, but it takes a dependency that is loaded already, whatever its folder. `tried` are the files that were begun:
 // libraries may depend on one another in a circle.
@@ -72,7 +80,7 @@ void* open(const std::string& file, std::set<std::string>& tried)
             end == std::string::npos ? std::string() : inDllDirectory(orvtext::fromUtf8(reason.substr(0, end)));
         void* const opened = dependency.empty() || tried.count(dependency) ? nullptr : open(dependency, tried);
         if (!opened) {
-            moduleError = orvtext::fromUtf8(reason);
+            moduleError = orvtext::fromUtf8(withoutFile(reason, file));
             break;
         }
         dependencies.push_back(opened);
@@ -168,8 +176,6 @@ HMODULE LoadLibraryW(LPCWSTR path)
         library = open(file, tried);
     }
     if (!library) {
-        moduleError =
-            L"The library \"" + wanted + L"\" could not be loaded: " + moduleError + L". Reinstall the application.";
         SetLastError(ERROR_MOD_NOT_FOUND);
         return nullptr;
     }

@@ -56,7 +56,7 @@ inline constexpr DWORD MAX_COMPUTERNAME_LENGTH = 64;
 BOOL GetComputerNameW(LPWSTR buffer, LPDWORD size);
 
 // Modules. "name.dll" means "name.so" here, with or without a directory; orvplatform::lastModuleError() has the
-// sentence that says why a library could not be loaded. GetModuleHandleW(nullptr) is the program itself.
+// reason for which a library could not be loaded. GetModuleHandleW(nullptr) is the program itself.
 HMODULE LoadLibraryW(LPCWSTR path);
 BOOL FreeLibrary(HMODULE module);
 FARPROC GetProcAddress(HMODULE module, LPCSTR name);
