@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <regex>
 #include <set>
 
@@ -55,15 +56,15 @@ std::vector<const Resource*> englishPictures()
     return found;
 }
 
-// The drawings of one kind, without the window icon, which is filled.
-std::vector<std::string> lineDrawings()
+// The drawings of one kind by their names, without the window icon, which is filled.
+std::map<std::string, std::string> lineDrawings()
 {
-    std::vector<std::string> texts;
+    std::map<std::string, std::string> texts;
     for (const auto& entry : fs::directory_iterator(fs::path(ORV_SOURCE_DIR) / "resources/artwork")) {
         const std::string name = entry.path().filename().string();
         if (entry.path().extension() == ".svg" && !name.starts_with("cloud")) {
             const Bytes bytes = readFile(entry.path());
-            texts.emplace_back(bytes.begin(), bytes.end());
+            texts.emplace(entry.path().stem().string(), std::string(bytes.begin(), bytes.end()));
         }
     }
     return texts;
@@ -75,6 +76,27 @@ std::set<std::string> found(const std::string& text, const std::string& pattern)
     std::set<std::string> result;
     for (std::sregex_iterator it(text.begin(), text.end(), expression), end; it != end; ++it) {
         result.insert((*it)[1]);
+    }
+    return result;
+}
+
+// The numbers that a drawing holds in this pattern's place, as one; all of them are alike in a drawing of the family.
+double theOne(const std::string& drawing, const std::string& pattern)
+{
+    const std::set<std::string> all = found(drawing, pattern);
+    EXPECT_EQ(all.size(), 1U) << pattern;
+    return all.empty() ? 0 : std::stod(*all.begin());
+}
+
+// The pictures that the resources name: the drawing and the side in pixels.
+std::set<std::pair<std::string, int>> renderedSizes()
+{
+    const Bytes bytes = readFile(fs::path(ORV_SOURCE_DIR) / "resources/imagelist.rc");
+    const std::string list(bytes.begin(), bytes.end());
+    const std::regex expression("\"([a-z-]+)-([0-9]+)\\.png\"");
+    std::set<std::pair<std::string, int>> result;
+    for (std::sregex_iterator it(list.begin(), list.end(), expression), end; it != end; ++it) {
+        result.emplace((*it)[1], std::stoi((*it)[2]));
     }
     return result;
 }
@@ -127,18 +149,38 @@ TEST(Pictures, AreDrawnForTheirSize)
 
 TEST(Artwork, IsOneFamily)
 {
-    const std::vector<std::string> drawings = lineDrawings();
+    const std::map<std::string, std::string> drawings = lineDrawings();
     EXPECT_EQ(drawings.size(), 9U);
-    for (const std::string& drawing : drawings) {
-        SCOPED_TRACE(drawing);
+    for (const auto& [name, drawing] : drawings) {
+        SCOPED_TRACE(name);
         EXPECT_EQ(found(drawing, "stroke=\"(#[0-9A-F]{6})\""), (std::set<std::string>{"#3A7AE8", "#7A838E"}));
-        const std::set<std::string> side = found(drawing, "viewBox=\"0 0 ([0-9]+) ");
-        ASSERT_EQ(side.size(), 1U);
-        // One weight: a pixel and a half at the small sizes, two at the large ones.
-        EXPECT_EQ(found(drawing, "stroke-width=\"([0-9.]+)\""),
-                  (std::set<std::string>{std::stoi(*side.begin()) <= 20 ? "1.5" : "2"}));
         EXPECT_EQ(found(drawing, "stroke-linecap=\"([a-z]+)\""), std::set<std::string>{"round"});
     }
+}
+
+TEST(Artwork, HasOneWeightAtEachSize)
+{
+    // Pixels at the plain step by the picture's side: 16 to 24 are drawn with a pixel and a half, 32 with two. The
+    // other steps are so much wider.
+    const std::map<std::string, std::vector<int>> plainSides{
+        {"feed", {24}},        {"feed-small", {16}}, {"push", {32, 24}}, {"push-small", {16}}, {"share", {32, 24}},
+        {"share-small", {16}}, {"account", {24}},    {"refresh", {24}},  {"delete", {20}}};
+    const std::map<std::string, std::string> drawings = lineDrawings();
+    std::set<std::string> seen;
+    for (const auto& [name, side] : renderedSizes()) {
+        SCOPED_TRACE(name + ", " + std::to_string(side));
+        ASSERT_TRUE(drawings.contains(name) && plainSides.contains(name));
+        const std::string& drawing = drawings.at(name);
+        const double drawn =
+            theOne(drawing, "stroke-width=\"([0-9.]+)\"") * side / theOne(drawing, "viewBox=\"0 0 ([0-9]+) ");
+        bool isRight = false;
+        for (const int plain : plainSides.at(name)) {
+            isRight = isRight || std::abs(drawn - (plain <= 24 ? 1.5 : 2.0) * side / plain) < 1e-9;
+        }
+        EXPECT_TRUE(isRight) << drawn << " pixels";
+        seen.insert(name);
+    }
+    EXPECT_EQ(seen.size(), drawings.size());
 }
 
 TEST(Artwork, OfTheViewerIsOfTheSameFamily)
