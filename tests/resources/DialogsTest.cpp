@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 using namespace restest;
@@ -213,6 +214,32 @@ TEST_P(DialogsTest, HaveATextWhereTheEnglishOneHasOne)
     }
 }
 
+TEST_P(DialogsTest, AreTranslated)
+{
+    if (GetParam().tag == english) {
+        GTEST_SKIP() << "English is the original";
+    }
+    // Words that a language shares with English.
+    const std::map<std::string, std::set<std::string>> alike{{"de", {"Cloud"}}, {"fr", {"Cloud", "Message"}}};
+    const auto expectTranslated = [&](const std::string& text, const std::string& original) {
+        const auto words = alike.find(GetParam().code);
+        if (!original.empty() && (words == alike.end() || !words->second.contains(original))) {
+            EXPECT_NE(text, original);
+        }
+    };
+    for (int i = 0; i < DialogKindCount; ++i) {
+        const auto kind = static_cast<DialogKind>(i);
+        const Dialog original = dialogOf(languages[0], kind);
+        const Dialog dialog = dialogOf(GetParam(), kind);
+        SCOPED_TRACE(GetParam().dialogs.at(kind));
+        expectTranslated(utf8(dialog.title), utf8(original.title));
+        ASSERT_EQ(dialog.controls.size(), original.controls.size());
+        for (std::size_t at = 0; at < dialog.controls.size(); ++at) {
+            expectTranslated(textOf(dialog.controls[at]), textOf(original.controls[at]));
+        }
+    }
+}
+
 TEST_P(DialogsTest, KeepControlsInsideAndApart)
 {
     for (const DialogKind kind : {SignIn, Settings, Share, Toolbar, AddComment}) {
@@ -250,9 +277,23 @@ TEST_P(DialogsTest, LeadToANewPassword)
     EXPECT_TRUE(control(dialog, 1043).creationData.empty());
 }
 
+TEST_P(DialogsTest, AreTitledAsTheStringsAre)
+{
+    auto strings = stringsOf(resources(), GetParam().tag);
+    EXPECT_EQ(utf8(dialogOf(GetParam(), SignIn).title), utf8(strings[2007]));
+    EXPECT_EQ(utf8(dialogOf(GetParam(), Settings).title), utf8(strings[112]));
+    EXPECT_EQ(utf8(dialogOf(GetParam(), Share).title), utf8(strings[103]));
+    EXPECT_EQ(textOf(control(dialogOf(GetParam(), Settings), noId)), utf8(strings[112])) << "the frame";
+}
+
 TEST_P(DialogsTest, LabelTheButtonsAsTheStringsDo)
 {
     auto strings = stringsOf(resources(), GetParam().tag);
+    EXPECT_EQ(textOf(control(dialogOf(GetParam(), Prompt), 270)), utf8(strings[2007]));
+    EXPECT_EQ(textOf(control(dialogOf(GetParam(), Toolbar), 272)), utf8(strings[103]));
+    // English writes the button's "Cloud" with a capital and the string's without: given so.
+    EXPECT_EQ(textOf(control(dialogOf(GetParam(), Toolbar), 271)),
+              GetParam().tag == english ? "Push to Cloud" : utf8(strings[119]));
     EXPECT_EQ(textOf(control(dialogOf(GetParam(), SignIn), 1001)), utf8(strings[106]));
     EXPECT_EQ(textOf(control(dialogOf(GetParam(), Settings), 1022)), utf8(strings[107]));
     EXPECT_EQ(textOf(control(dialogOf(GetParam(), Share), 1)), utf8(strings[103]));
