@@ -232,7 +232,7 @@ class SeeThroughView : public DefaultView
 
 TEST_P(DefaultView, IsTheViewOfThePoster)
 {
-    save();
+    ASSERT_NO_FATAL_FAILURE(save());
     expectThePosterIsTheView();
     auto const& camera = *orv::recordOf<orvgl::SCRenderer>(session->document())->camera;
     EXPECT_EQ(view.orthographic, camera.orthographic);
@@ -244,7 +244,7 @@ TEST_P(DefaultView, IsTheViewOfThePoster)
 
 TEST_P(DefaultView, ShowsPartsAsTheReviewerLeftThem)
 {
-    save();
+    ASSERT_NO_FATAL_FAILURE(save());
     auto const parts = mostSeen();
     ASSERT_GE(parts.size(), 4U);
     auto const [hidden, moved, coloured] = std::array{parts[1], parts[2], parts[0]};
@@ -254,7 +254,7 @@ TEST_P(DefaultView, ShowsPartsAsTheReviewerLeftThem)
     orvviewer::moveNodes(context, {nodeOf(moved)}, -far, far, -far);
     orvviewer::colourNodes(context, {nodeOf(coloured)}, 0xC800FF); // a purple that no model has
     auto const before = artwork;
-    save();
+    ASSERT_NO_FATAL_FAILURE(save());
     EXPECT_FALSE(shows(hidden));
     EXPECT_TRUE(shows(moved));
     EXPECT_TRUE(shows(coloured));
@@ -268,10 +268,10 @@ TEST_P(DefaultView, ShowsPartsAsTheReviewerLeftThem)
 
 TEST_P(SeeThroughView, LetsThroughWhatStandsBehindASeeThroughPart)
 {
-    save();
+    ASSERT_NO_FATAL_FAILURE(save());
     int const clear = mostSeen().at(0);
     orvviewer::makeTransparent(session->context(), {nodeOf(clear)}, 0.7F);
-    save();
+    ASSERT_NO_FATAL_FAILURE(save());
     int see = 0;
     int shown = 0;
     for (int row = border; row < artwork.height - border; ++row) {
