@@ -98,6 +98,7 @@ TEST_F(LoginTest, StartsWithEmptyFieldsAndTheOfferOfAnAccount)
                   EXPECT_FALSE(isVisible(dialog, unusedLink));
                   EXPECT_FALSE(isEnabled(dialog, unusedLink));
                   EXPECT_NE(dialog.GetIcon(FALSE), nullptr);
+                  EXPECT_EQ(dialog.GetIcon(FALSE), LoadIconW(ResourceModule::handle(), MAKEINTRESOURCEW(1038)));
                   CString title;
                   dialog.GetWindowTextW(title);
                   EXPECT_STREQ(title.GetString(), L"Login to Orvanta Cloud");
