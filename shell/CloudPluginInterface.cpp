@@ -95,12 +95,9 @@ void cloudplugin::AddToRibbon(HWND ribbonBar, std::shared_ptr<orvui::IResourceMa
     CMFCRibbonButton* const share = makeButton(shareId, resource::text::share, smallPush, largeShare);
 
     std::wstring const title = pluginText(resource::text::panelTitle);
-    HICON const icon = small.ExtractIcon(smallPush);
+    HICON const icon = small.ExtractIcon(smallPush); // the panel's from then on
     CMFCRibbonPanel* const panel =
         category->InsertPanel(std::max(0, category->GetPanelCount() - 1), title.c_str(), icon, nullptr);
-    if (icon != nullptr) {
-        DestroyIcon(icon); // the panel has its copy
-    }
     panel->Add(push);
     panel->Add(share);
 }

@@ -58,7 +58,7 @@ void CMFCRibbonButton::SetImageIndex(int index, BOOL large)
     changed(m_pParent);
 }
 
-CMFCRibbonPanel::CMFCRibbonPanel(LPCWSTR name, HICON panelIcon) : m_strName(name), icon(CopyIcon(panelIcon)) {}
+CMFCRibbonPanel::CMFCRibbonPanel(LPCWSTR name, HICON panelIcon) : m_strName(name), icon(panelIcon) {}
 CMFCRibbonPanel::~CMFCRibbonPanel() = default;
 
 void CMFCRibbonPanel::Add(CMFCRibbonBaseElement* element)
@@ -114,7 +114,7 @@ CMFCRibbonPanel* CMFCRibbonCategory::InsertPanelAt(int index, LPCWSTR name, HICO
     if (!panel)
         panel = std::make_unique<CMFCRibbonPanel>();
     panel->m_strName = name;
-    panel->icon.reset(CopyIcon(icon));
+    panel->icon.reset(icon);
     panel->category = this;
     panel->inserted = true;
     const auto place = panels.begin() + std::clamp(index, 0, GetPanelCount());

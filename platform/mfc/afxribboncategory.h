@@ -15,7 +15,8 @@ public:
                        CSize smallSize = CSize(16, 16), CSize largeSize = CSize(32, 32));
     ~CMFCRibbonCategory() override;
 
-    // A new panel behind the others. With a runtime class the panel is of that class. The icon is copied.
+    // A new panel behind the others. With a runtime class the panel is of that class. The panel
+    // takes the icon over and destroys it with itself.
     CMFCRibbonPanel* AddPanel(LPCWSTR name, HICON icon = nullptr, CRuntimeClass* runtimeClass = nullptr);
     int GetPanelCount() const { return static_cast<int>(panels.size()); }
     CMFCRibbonPanel* GetPanel(int index) const; // null outside

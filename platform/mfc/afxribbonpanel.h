@@ -10,14 +10,14 @@ class CMFCRibbonPanel : public CObject
     DECLARE_DYNCREATE(CMFCRibbonPanel)
 
 public:
-    explicit CMFCRibbonPanel(LPCWSTR name = nullptr, HICON icon = nullptr);
+    explicit CMFCRibbonPanel(LPCWSTR name = nullptr, HICON icon = nullptr); // takes the icon over
     ~CMFCRibbonPanel() override;
 
     virtual void Add(CMFCRibbonBaseElement* element); // the panel owns it from now on
     int GetCount() const { return static_cast<int>(elements.size()); }
     CMFCRibbonBaseElement* GetElement(int index) const; // null outside
     LPCWSTR GetName() const { return m_strName; }
-    HICON GetDefaultIcon() const { return icon.get(); } // the panel's own copy; null when it was given none
+    HICON GetDefaultIcon() const { return icon.get(); } // the panel's; null when it was given none
     CMFCRibbonCategory* GetParentCategory() const { return category; }
 
 protected:
