@@ -2,7 +2,10 @@
 
 #include "shell/InterfaceFixture.h"
 
+#include <QTabBar>
 #include <QToolButton>
+
+#include <algorithm>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
@@ -13,6 +16,25 @@ namespace
 
 constexpr unsigned int pushId = 40118;
 constexpr unsigned int shareId = 40102;
+
+/// Expects the picture in the tab, and the smaller one in the strip that stands there while the bar is collapsed.
+void expectShown(SideBar& bar, QImage const& inTab, QImage const& inStrip)
+{
+    auto const pixels = [](QIcon const& icon, QSize const& size) { return icon.pixmap(size).toImage(); };
+    auto const asShown = [](QImage const& picture) { return QPixmap::fromImage(picture).toImage(); };
+    QWidget const& widget = *orvplatform::widgetOf(bar.GetSafeHwnd());
+    auto const* const tabs = widget.findChild<QTabBar*>();
+    ASSERT_NE(tabs, nullptr);
+    EXPECT_EQ(tabs->iconSize(), inTab.size());
+    EXPECT_EQ(pixels(tabs->tabIcon(0), tabs->iconSize()), asShown(inTab));
+    auto const buttons = widget.findChildren<QToolButton*>();
+    auto const opener = std::find_if(buttons.begin(), buttons.end(), [&](QToolButton const* button) {
+        return button->accessibleName() == tabs->tabText(0);
+    });
+    ASSERT_NE(opener, buttons.end());
+    EXPECT_EQ((*opener)->iconSize(), inStrip.size());
+    EXPECT_EQ(pixels((*opener)->icon(), (*opener)->iconSize()), asShown(inStrip));
+}
 
 /// The ribbon's active category, which nothing public sets to none.
 struct Reach {
@@ -202,6 +224,7 @@ TEST_F(InterfaceTest, ThePicturesAreThoseOfTheDisplaysStep)
         EXPECT_EQ(small.count, 1);
         EXPECT_EQ(small.mask, 0xFF00FFU);
         EXPECT_EQ(small.first, paneImage(step.smallPane, pixels.smallWidth, pixels.smallHeight));
+        expectShown(side, large.first, small.first);
         side.DestroyWindow();
         bar.DestroyWindow();
     }

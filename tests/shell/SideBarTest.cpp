@@ -185,6 +185,30 @@ TEST_F(InterfaceTest, WithoutADocumentTheOptionsGetNoPage)
     sheet.DestroyWindow();
 }
 
+TEST_F(InterfaceTest, ASideBarOrASheetOfAnotherClassIsLeftAlone)
+{
+    sendHint(*plugin.operator->(), codes::documentOpened, scene.document);
+    long const before = scene.document.use_count();
+    CMFCOutlookBar plain; // the toolkit's own, which is no view of the viewer
+    EXPECT_TRUE(plain.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 7, WS_CHILD | WS_VISIBLE));
+    plugin->AddToOutlookBar(plain.GetSafeHwnd(), resources);
+    EXPECT_EQ(plain.GetUnderlyingWindow()->GetTabsNum(), 0);
+    EXPECT_EQ(plain.GetUnderlyingWindow()->GetImageListCount(), 0);
+    EXPECT_TRUE(resources->windows.empty());
+    plain.DestroyWindow();
+
+    CPropertySheet sheet(L"Options");
+    EXPECT_TRUE(sheet.Create(&frame));
+    plugin->AddToPropertySheet(sheet.GetSafeHwnd(), resources);
+    EXPECT_EQ(sheet.GetPageCount(), 0);
+    EXPECT_EQ(scene.document.use_count(), before);
+    sheet.DestroyWindow();
+
+    openSideBar(); // nothing was used up
+    plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), resources);
+    EXPECT_EQ(sideBar.tabs().GetTabsNum(), 1);
+}
+
 TEST_F(InterfaceTest, EachSheetGetsAPageOfItsOwn)
 {
     sendHint(*plugin.operator->(), codes::documentOpened, scene.document);
