@@ -21,8 +21,8 @@ public:
                              Qt::WindowCloseButtonHint)
     {
         auto* all = new QVBoxLayout(this);
-        all->setContentsMargins(12, 12, 12, 12);
-        all->setSpacing(12);
+        all->setContentsMargins(scaled(12), scaled(12), scaled(12), scaled(12));
+        all->setSpacing(scaled(12));
         auto* middle = new QHBoxLayout;
         middle->addWidget(&titles);
         middle->addWidget(&host, 1);
@@ -30,16 +30,17 @@ public:
         auto* row = new QHBoxLayout;
         row->addStretch(1);
         for (QPushButton* button : {&ok, &cancel, &apply}) {
-            button->setMinimumSize(84, 28);
+            button->setMinimumSize(scaled(84), scaled(28));
             row->addWidget(button);
         }
         ok.setProperty("primary", true);
         apply.setEnabled(false);
         all->addLayout(row);
         titles.setObjectName(QStringLiteral("sheetPages"));
-        titles.setFixedWidth(148);
+        titles.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        fitTitles();
         titles.setFrameShape(QFrame::NoFrame);
-        host.setMinimumSize(420, 320);
+        host.setMinimumSize(scaled(420), scaled(320));
         new QStackedLayout(&host);
         connect(&titles, &QListWidget::currentRowChanged, this, [this](int page) {
             if (page >= 0 && page != shown && !(actions.show && ask(page)))
@@ -56,6 +57,13 @@ public:
     {
         const QSignalBlocker quiet(titles);
         titles.setCurrentRow(row);
+    }
+
+    // As wide as the widest title needs it in the list's font.
+    void fitTitles()
+    {
+        titles.ensurePolished();
+        titles.setFixedWidth(std::max(scaled(148), titles.sizeHintForColumn(0) + 2 * titles.frameWidth()));
     }
 
     SheetActions actions;
@@ -105,6 +113,7 @@ void addSheetPage(HWND sheet, const std::wstring& title)
     if (SheetWidget* widget = sheetWidget(sheet)) {
         const QSignalBlocker quiet(widget->titles);
         widget->titles.addItem(QString::fromStdWString(title));
+        widget->fitTitles();
         auto* page = new QWidget;
         widget->stack()->addWidget(page);
     }

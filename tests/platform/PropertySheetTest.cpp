@@ -4,6 +4,8 @@
 #include "platform/qt/Native.h"
 
 #include <QLabel>
+#include <QListWidget>
+#include <QScrollBar>
 
 using namespace orvplatform::testing;
 
@@ -170,4 +172,23 @@ TEST_F(PropertySheet, CanBeShownWithoutPages)
         return IDCANCEL;
     });
     EXPECT_EQ(sheet.DoModal(), IDCANCEL);
+}
+
+TEST_F(PropertySheet, ShowsLongTitlesWhole)
+{
+    CMFCPropertySheet sheet(L"Options");
+    ASSERT_TRUE(sheet.Create());
+    const auto* list = orvplatform::widgetOf(sheet.m_hWnd)->findChild<QListWidget*>();
+    ASSERT_NE(list, nullptr);
+    const int usual = list->width();
+    orvplatform::addWidgetPage(sheet, new QLabel(QStringLiteral("x")), QStringLiteral("General"));
+    EXPECT_EQ(list->width(), usual);
+    orvplatform::addWidgetPage(sheet, new QLabel(QStringLiteral("x")),
+                               QStringLiteral("Service de collaboration et commentaires"));
+    sheet.ShowWindow(SW_SHOW);
+    processEvents();
+    EXPECT_GT(list->width(), usual);
+    EXPECT_GE(list->viewport()->width(), list->sizeHintForColumn(0));
+    EXPECT_FALSE(list->horizontalScrollBar()->isVisible());
+    sheet.DestroyWindow();
 }
