@@ -59,6 +59,13 @@ protected:
         FreeLibrary(module);
         return list;
     }
+    /// Ends the window of the recording plug-in's pane; a second call ends the pane itself.
+    void endPane() const
+    {
+        auto const module = LoadLibraryW(installed().wstring().c_str());
+        reinterpret_cast<void (*)()>(GetProcAddress(module, "endPane"))();
+        FreeLibrary(module);
+    }
 
     static std::ptrdiff_t placeOf(std::vector<std::string> const& list, std::string const& event)
     {
@@ -89,6 +96,8 @@ TEST_F(PluginHostTest, AFileThatIsNoLibraryIsASentence)
 {
     writeFile(installed(), "this is no library");
     start();
+    EXPECT_EQ(status(), "The library \"cloudplugin.so\" can't be loaded: \"file too short\". Install Orvanta again and "
+                        "start it anew.");
     expectRefused("cloudplugin.so", "can't be loaded");
 }
 
@@ -149,6 +158,23 @@ TEST_F(PluginHostTest, ABadLibraryLeavesTheOthersAlone)
     }
 }
 
+TEST_F(PluginHostTest, TheFirstModelsSentenceSaysAgainWhichLibrariesFailed)
+{
+    install("NoEntry");
+    installBeside("Empty");
+    start();
+    auto const cubes = writeThreeCubes(folder.path);
+    ASSERT_TRUE(session->openModel(cubes.wstring()));
+    auto const opened = cubes.filename().string().insert(0, 1, '"') + "\" is open.";
+    EXPECT_EQ(status(), opened +
+                            " The library \"cloudplugin.so\" lacks the function \"createPlugin\". Install Orvanta again "
+                            "and start it anew. The library \"Empty.so\" made no plug-in. The viewer works on without "
+                            "it; install the plug-in again to get it back.");
+    session->closeModel();
+    ASSERT_TRUE(session->openModel(cubes.wstring()));
+    EXPECT_EQ(status(), opened) << "once is enough";
+}
+
 TEST_F(PluginHostTest, APluginThatThrowsEverywhereIsSurvived)
 {
     install("Throwing");
@@ -206,6 +232,22 @@ TEST_F(PluginHostTest, DeliversTheHintsOfADocumentsLife)
     EXPECT_GE(placeOf(list, "hint 10"), 0);
     EXPECT_GE(placeOf(list, "pane hint 9"), 0);
     EXPECT_GE(placeOf(list, "hint 14"), 0);
+    session->closeModel();
+    EXPECT_GE(placeOf(takeEvents(), "hint 5"), 0);
+}
+
+TEST_F(PluginHostTest, APaneThatEndedGetsNoHintsAnyMore)
+{
+    install("Recording");
+    start();
+    takeEvents();
+    endPane();
+    ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring()));
+    auto const list = takeEvents();
+    EXPECT_GE(placeOf(list, "hint 3"), 0) << "the plug-in itself does";
+    EXPECT_EQ(std::count_if(list.begin(), list.end(), [](auto const& event) { return event.rfind("pane ", 0) == 0; }),
+              0);
+    endPane();
     session->closeModel();
     EXPECT_GE(placeOf(takeEvents(), "hint 5"), 0);
 }

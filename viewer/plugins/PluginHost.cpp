@@ -3,6 +3,7 @@
 #include "host/orv/FileUtils.h"
 #include "host/orv/IOutlookPane.h"
 #include "host/runtime/Files.h"
+#include "platform/qt/WindowCreation.h"
 #include "platform/text/Text.h"
 #include "viewer/commands/CommandId.h"
 
@@ -92,6 +93,12 @@ void PluginHost::enrol(HWND window)
 {
     if (auto* pane = dynamic_cast<orv::IOutlookPane*>(CWnd::FromHandlePermanent(window))) {
         services.notifier->add(pane, [pane](orv::IHint* hint) { pane->OnUpdate(hint); });
+        // A pane may end before the viewer does, and nothing is left then to take a hint.
+        orvplatform::whenGone(window, [pane, notifier = std::weak_ptr(services.notifier)] {
+            if (auto const list = notifier.lock()) {
+                list->remove(pane);
+            }
+        });
     }
 }
 

@@ -10,6 +10,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace
@@ -50,6 +51,8 @@ public:
     void OnUpdate(orv::IHint* hint) override { note("pane hint " + std::to_string(hint->getCode())); }
     void OnActivateChange(bool active) override { note(active ? "pane activated" : "pane left"); }
 };
+
+Pane* pane = nullptr; // of the one plug-in
 
 class RecordingPlugin : public orvui::IGUIPlugin
 {
@@ -131,7 +134,6 @@ public:
 
 private:
     std::shared_ptr<orv::IDocument> document;
-    Pane* pane;
 };
 
 } // namespace
@@ -152,6 +154,14 @@ extern "C" int destroyPlugin(orv::IPlugin** plugin)
 #else
     return 0;
 #endif
+}
+
+/// Ends the pane's window, and the object with its second call.
+extern "C" void endPane()
+{
+    if (!pane->DestroyWindow()) {
+        delete std::exchange(pane, nullptr);
+    }
 }
 
 /// The events so far; they are forgotten with that.
