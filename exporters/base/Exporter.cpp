@@ -1,13 +1,12 @@
 #include "exporters/base/Exporter.h"
 
-#include "host/orv/FilePath.h"
 #include "host/orv/IDocument.h"
 #include "host/orvsg/SCSceneRes.h"
 #include "host/orvsg/SCSceneTopo.h"
 #include "host/runtime/Files.h"
 
 #include <algorithm>
-#include <cwctype>
+#include <new>
 #include <utility>
 
 namespace orvexport
@@ -20,11 +19,8 @@ Exporter::Exporter(wchar_t const* exporterName, wchar_t const* identityText, std
 
 bool Exporter::takes(wchar_t const* path)
 {
-    std::wstring extension = orv::FilePath(path).getExt();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](wchar_t c) { return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))); });
-    return std::any_of(extensions.begin(), extensions.end(),
-                       [&](std::wstring const& known) { return extension == L'.' + known; });
+    auto const extension = orvhost::extensionOf(path == nullptr ? L"" : path);
+    return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
 }
 
 orvexp::Status Exporter::save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& document,
@@ -41,14 +37,29 @@ orvexp::Status Exporter::save(wchar_t const* path, std::shared_ptr<orv::IDocumen
         }
         auto const target = orvhost::nativePath(path);
         OutputFile file(target);
-        write({document, preferences.get(), target, file, progress});
+        write({document, preferences.get(), target, orvhost::extensionOf(path), file, progress});
         file.putInPlace();
         progress.set(1);
         return orvexp::Status::ok;
+    } catch (...) {
+        return statusOfException(); // the file is gone by now
+    }
+}
+
+orvexp::Status statusOfException() noexcept
+{
+    try {
+        throw;
     } catch (NothingToWrite const&) {
         return orvexp::Status::nothingToWrite;
+    } catch (OutputError const& error) {
+        return error.status();
+    } catch (std::bad_alloc const&) {
+        return orvexp::Status::noMemory;
+    } catch (std::length_error const&) {
+        return orvexp::Status::modelTooLarge;
     } catch (...) {
-        // The libraries below throw what they like, not only standard exceptions. The file is gone by now.
+        // The libraries below throw what they like, not only standard exceptions.
         return orvexp::Status::cannotWrite;
     }
 }

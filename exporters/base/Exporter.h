@@ -17,6 +17,7 @@ struct Job {
     std::shared_ptr<orv::IDocument> const& document;
     orv::Preferences const* preferences; ///< may be null
     std::filesystem::path path;          ///< of the wanted file; what is written goes through `file`
+    std::wstring extension;              ///< of that path: one of the exporter's own, or another that it was given
     OutputFile& file;
     Progress& progress;
 };
@@ -27,6 +28,9 @@ class NothingToWrite : public std::runtime_error
 public:
     NothingToWrite() : std::runtime_error("the model holds nothing that the format can keep") {}
 };
+
+/// The outcome of a save that the exception being handled stands for.
+orvexp::Status statusOfException() noexcept;
 
 /// What all exporter plug-ins do alike: they take files by their extension, show progress, write beside the wanted file
 /// and put it in place at the end. Whatever goes wrong, save throws nothing and leaves an earlier file as it was.

@@ -6,8 +6,6 @@
 #include "exporters/bomwriter/BomTable.h"
 #include "exporters/page/PdfPage.h"
 
-#include <strings.h>
-
 namespace
 {
 
@@ -20,7 +18,7 @@ private:
     void write(orvexport::Job const& job) override
     {
         auto const table = bomwriter::bomTable(job.document);
-        if (strcasecmp(job.path.extension().c_str(), ".csv") == 0) {
+        if (job.extension == L"csv") {
             job.file.write(bomwriter::csvOf(table));
         } else {
             job.file.write(

@@ -16,9 +16,43 @@ namespace orvexport
 namespace
 {
 
+orvexp::Status statusOf(int error)
+{
+    using orvexp::Status;
+    switch (error) {
+    case EISDIR:
+        return Status::isFolder;
+    case ENOENT:
+    case ENOTDIR:
+        return Status::noFolder;
+    case EACCES:
+    case EPERM:
+        return Status::folderProtected;
+    case EROFS:
+        return Status::readOnlyDisk;
+    case ENOSPC:
+        return Status::diskFull;
+    case EDQUOT:
+        return Status::overQuota;
+    case EFBIG:
+        return Status::fileTooLarge;
+    case ENAMETOOLONG:
+        return Status::nameTooLong;
+    case ENOMEM:
+        return Status::noMemory;
+    default:
+        return Status::cannotWrite;
+    }
+}
+
+[[noreturn]] void fail(int error, orvexp::Status status)
+{
+    throw OutputError(status, std::strerror(error));
+}
+
 [[noreturn]] void fail(int error)
 {
-    throw OutputError(std::strerror(error));
+    fail(error, statusOf(error));
 }
 
 std::filesystem::path behindLinks(std::filesystem::path path)
@@ -41,13 +75,19 @@ OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks
     struct stat old {
     };
     bool const replaces = stat(target.c_str(), &old) == 0;
+    if (!replaces && errno != ENOENT) {
+        fail(errno); // the temporary name is shorter, so that a name that is too long would only be found at the end
+    }
     if (replaces && S_ISDIR(old.st_mode)) {
         fail(EISDIR);
     }
     constexpr mode_t anyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
     // The administrator's rights would pass over a file's own protection; who protected it meant it.
-    if (replaces && ((old.st_mode & anyWrite) == 0 || access(target.c_str(), W_OK) != 0)) {
-        fail(EACCES);
+    if (replaces && (old.st_mode & anyWrite) == 0) {
+        fail(EACCES, orvexp::Status::isProtected);
+    }
+    if (replaces && access(target.c_str(), W_OK) != 0) {
+        fail(errno, errno == EACCES ? orvexp::Status::isProtected : statusOf(errno));
     }
     std::random_device source;
     do {
@@ -55,7 +95,11 @@ OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks
         descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     } while (descriptor < 0 && errno == EEXIST);
     if (descriptor < 0) {
-        fail(errno);
+        int const error = errno;
+        std::error_code unknown;
+        // A file system that takes no files, such as one of the system's own, says that too.
+        bool const isNoReason = error == ENOENT && std::filesystem::is_directory(name.parent_path(), unknown);
+        fail(error, isNoReason ? orvexp::Status::cannotWrite : statusOf(error));
     }
     if (replaces) {
         // Who may read the file stays as it was; a file system without such rights has nothing to keep.
@@ -101,7 +145,10 @@ void OutputFile::seek(std::uint64_t position)
 
 void OutputFile::putInPlace()
 {
-    // Some file systems only find out on closing that there was no room.
+    // Some file systems only find out here, or on closing, that there was no room; some have nothing to wait for.
+    if (fsync(descriptor) != 0 && errno != EINVAL && errno != ENOTSUP) {
+        fail(errno);
+    }
     int const closed = close(descriptor);
     descriptor = -1;
     if (closed != 0 || std::rename(name.c_str(), target.c_str()) != 0) {

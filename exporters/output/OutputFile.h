@@ -1,19 +1,27 @@
 #pragma once
 
+#include "host/orvexp/Status.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace orvexport
 {
 
-/// Why a file can't be written, as the system says it.
+/// Why a file can't be written: as an outcome of the save, and in the system's or the library's words.
 class OutputError : public std::runtime_error
 {
 public:
-    using std::runtime_error::runtime_error;
+    OutputError(orvexp::Status outcome, std::string const& words) : std::runtime_error(words), reason(outcome) {}
+    explicit OutputError(std::string const& words) : OutputError(orvexp::Status::cannotWrite, words) {}
+    orvexp::Status status() const { return reason; }
+
+private:
+    orvexp::Status reason;
 };
 
 /// A file that replaces the one of its name as a whole, or not at all: it is written under a temporary name in the same
@@ -22,8 +30,8 @@ public:
 class OutputFile
 {
 public:
-    /// Made before the work, so that a folder that takes no file, a folder of that name and a read-only file are found
-    /// at once.
+    /// Made before the work, so that a folder that takes no file, a folder of that name, a read-only file and a name
+    /// that is too long are found at once.
     explicit OutputFile(std::filesystem::path const& wanted);
     ~OutputFile();
     OutputFile(OutputFile const&) = delete;
@@ -36,7 +44,8 @@ public:
     /// The next write begins there; what already stands there is overwritten.
     void seek(std::uint64_t position);
 
-    /// The file stands under its own name from here on.
+    /// The file stands under its own name from here on, and its content on the disk: after a power failure there is
+    /// the old file or the new one, whole.
     void putInPlace();
 
 private:

@@ -126,9 +126,9 @@ Bytes encodeSound(Scene const& scene, WriteOptions const& options)
     return assembled(sections, fileId, structureId);
 }
 
-WriteOutcome cannotWrite(std::filesystem::path const& path, std::string const& reason)
+WriteOutcome cannotWrite(std::filesystem::path const& path, orvexp::Status reason, std::string const& words)
 {
-    return {WriteOutcome::Result::cannotWrite, "Can't write \"" + path.string() + "\": " + reason + "."};
+    return {WriteOutcome::Result::cannotWrite, "Can't write \"" + path.string() + "\": " + words + ".", reason};
 }
 
 } // namespace
@@ -142,10 +142,12 @@ Bytes encode(Scene const& scene, WriteOptions const& options)
 
 WriteOutcome writeFile(Scene const& scene, std::filesystem::path const& path, WriteOptions const& options)
 {
-    WriteOutcome const cancelled{WriteOutcome::Result::cancelled, "The export was cancelled."};
+    using orvexp::Status;
+    WriteOutcome const cancelled{WriteOutcome::Result::cancelled, "The export was cancelled.", Status::cannotWrite};
     try {
         if (auto const problem = problemOf(scene))
-            return {WriteOutcome::Result::unsound, "The model can't be written as PRC: " + *problem + "."};
+            return {WriteOutcome::Result::unsound, "The model can't be written as PRC: " + *problem + ".",
+                    Status::cannotWrite};
         // Made first: a directory that takes no file is found before the long work, not after it.
         orvexport::OutputFile file(path);
         Bytes const content = encodeSound(scene, options);
@@ -161,9 +163,13 @@ WriteOutcome writeFile(Scene const& scene, std::filesystem::path const& path, Wr
         file.putInPlace();
         return {};
     } catch (std::bad_alloc const&) {
-        return cannotWrite(path, "there is not enough memory");
+        return cannotWrite(path, Status::noMemory, "there is not enough memory");
+    } catch (std::length_error const& error) {
+        return cannotWrite(path, Status::modelTooLarge, error.what());
+    } catch (orvexport::OutputError const& error) {
+        return cannotWrite(path, error.status(), error.what());
     } catch (std::exception const& error) {
-        return cannotWrite(path, error.what());
+        return cannotWrite(path, Status::cannotWrite, error.what());
     }
 }
 

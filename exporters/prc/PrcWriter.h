@@ -2,6 +2,7 @@
 
 #include "exporters/prc/EntityTypes.h"
 #include "exporters/prc/Scene.h"
+#include "host/orvexp/Status.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -21,11 +22,13 @@ struct WriteOptions {
     std::function<bool(double)> progress;
 };
 
-/// How writing ended. `problem` is a sentence where it didn't succeed.
+/// How writing ended. `problem` is a sentence where it didn't succeed, and `reason` tells why the file can't be
+/// written.
 struct WriteOutcome {
     enum class Result { written, cancelled, unsound, cannotWrite };
     Result result = Result::written;
     std::string problem;
+    orvexp::Status reason = orvexp::Status::ok;
     explicit operator bool() const { return result == Result::written; }
 };
 

@@ -1,12 +1,10 @@
 #include "exporters/prcdelaywriter/PrcDelayWriter.h"
 
-#include "exporters/base/Progress.h"
+#include "exporters/base/Exporter.h"
 #include "exporters/base/Units.h"
 #include "exporters/prc/PrcWriter.h"
 #include "exporters/prcdelaywriter/SceneBuilder.h"
 #include "host/runtime/Files.h"
-
-#include <exception>
 
 namespace prcdelay
 {
@@ -28,10 +26,9 @@ orvexp::Status PrcDelayWriter::save(wchar_t const* path, std::shared_ptr<orv::ID
             progress.set(builtPart + (1 - builtPart) * done);
             return true;
         };
-        return prc::writeFile(*scene, orvhost::nativePath(path), options) ? orvexp::Status::ok
-                                                                          : orvexp::Status::cannotWrite;
-    } catch (std::exception const&) {
-        return orvexp::Status::cannotWrite;
+        return prc::writeFile(*scene, orvhost::nativePath(path), options).reason;
+    } catch (...) {
+        return orvexport::statusOfException();
     }
 }
 

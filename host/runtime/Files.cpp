@@ -1,9 +1,12 @@
 #include "host/runtime/Files.h"
 
+#include "host/orv/FilePath.h"
 #include "platform/text/Text.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cwctype>
 #include <fstream>
 #include <system_error>
 
@@ -37,6 +40,15 @@ bool writeAll(int descriptor, std::string_view content)
 std::filesystem::path nativePath(std::wstring const& path)
 {
     return orvtext::toUtf8(path);
+}
+
+std::wstring extensionOf(std::wstring const& path)
+{
+    std::wstring extension = orv::FilePath(path.c_str()).getExt();
+    extension.erase(0, 1);
+    std::transform(extension.begin(), extension.end(), extension.begin(),
+                   [](wchar_t c) { return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))); });
+    return extension;
 }
 
 FileStamp stampOf(std::filesystem::path const& path)

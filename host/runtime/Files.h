@@ -13,6 +13,10 @@ namespace orvhost
 /// The path as the system takes it: UTF-8.
 std::filesystem::path nativePath(std::wstring const& path);
 
+/// The extension in lower case, without the point: "step" of "/a/Part.v2.STEP", and "csv" of a file that is called
+/// ".csv"; empty without one. By it files are told apart.
+std::wstring extensionOf(std::wstring const& path);
+
 /// Makes the directory and what is missing above it, mode 0700. True where it exists afterwards.
 bool makeDirectory(std::filesystem::path const& path);
 

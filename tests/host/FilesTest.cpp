@@ -69,6 +69,15 @@ TEST(Paths, AreSplitAtTheLastSeparatorAndTheLastDot)
     EXPECT_EQ(FilePath(nullptr).getFName(), L"");
 }
 
+TEST(Paths, TellTheKindOfAFileInLowerCase)
+{
+    for (auto const& [path, extension] :
+         {std::pair{L"/a/part.v2.STEP", L"step"}, std::pair{L"/a/.csv", L"csv"}, std::pair{L".CSV", L"csv"},
+          std::pair{L"/a.b/part", L""}, std::pair{L"part.", L""}, std::pair{L"gearbox. ", L" "}, std::pair{L"", L""}}) {
+        EXPECT_EQ(orvhost::extensionOf(path), extension);
+    }
+}
+
 TEST(Paths, AreJoinedWithOneSeparator)
 {
     EXPECT_EQ(FileUtils::join(L"/a", L"b"), L"/a/b");

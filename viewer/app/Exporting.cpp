@@ -1,7 +1,6 @@
 #include "viewer/app/Exporting.h"
 
 #include "host/orv/DLLFuncPtrHelper.h"
-#include "host/orv/FilePath.h"
 #include "host/orv/FileUtils.h"
 #include "host/orv/IPlugin.h"
 #include "host/orvexp/DelayExportHelper.h"
@@ -12,10 +11,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cwctype>
-#include <exception>
 #include <filesystem>
-#include <unistd.h>
 
 namespace orvviewer
 {
@@ -27,15 +23,6 @@ constexpr wchar_t const* deferredExtension = L"prc";
 /// What the exporters of the installation may write, in the order in which it is offered.
 constexpr std::array<wchar_t const*, 8> usualExtensions{L"orvanta", L"pdf", L"stl", L"obj",
                                                         L"3ds",     L"dae", L"csv", L"bompdf"};
-
-std::wstring extensionOf(std::wstring const& path)
-{
-    auto text = orvtext::fromUtf8(orvhost::nativePath(path).extension().string());
-    text.erase(0, 1);
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](wchar_t c) { return static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))); });
-    return text;
-}
 
 std::shared_ptr<orvexp::ExportManager> loadExporters()
 {
@@ -68,50 +55,48 @@ std::shared_ptr<orvexp::IDelayExporter> loadDeferred(std::wstring& error)
     return entry->isValid() ? std::make_shared<orvexp::DelayExportHelper>(entry) : nullptr;
 }
 
-/// Why a file of that path can't be written, as far as the file system tells; a whole sentence.
-std::wstring reasonAgainst(std::wstring const& path, std::wstring const& name)
+/// What the outcome tells the user, of a file by that name; a whole sentence.
+std::wstring sentenceFor(orvexp::Status status, std::wstring const& name)
 {
-    namespace fs = std::filesystem;
-    auto const file = orvhost::nativePath(path);
-    std::error_code failure;
-    if (fs::is_directory(file, failure)) {
+    using orvexp::Status;
+    switch (status) {
+    case Status::ok:
+        return L"\"" + name + L"\" was saved.";
+    case Status::noLibrary:
+        return L"\"" + name + L"\" can't be saved: its exporter isn't installed. Choose another format.";
+    case Status::nothingToWrite:
+        return L"There is nothing to save in this format. Open a model with parts first.";
+    case Status::isFolder:
         return L"\"" + name + L"\" can't be written: it is a folder. Choose a name for the file.";
-    }
-    auto const folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-    if (!fs::is_directory(folder, failure)) {
+    case Status::noFolder:
         return L"\"" + name + L"\" can't be written: its folder doesn't exist. Choose another folder.";
-    }
-    auto const rights = fs::status(file, failure).permissions();
-    auto const anyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    if (fs::exists(file, failure) && (rights & anyWrite) == fs::perms::none) {
+    case Status::isProtected:
         return L"\"" + name + L"\" can't be written: it is protected against writing. Choose another name.";
-    }
-    if (access(folder.c_str(), W_OK) != 0) {
+    case Status::folderProtected:
         return L"\"" + name + L"\" can't be written: you may not write to its folder. Choose another folder.";
-    }
-    constexpr std::uintmax_t hardlyAny = std::uintmax_t{1} << 20;
-    auto const space = fs::space(folder, failure);
-    if (!failure && space.available < hardlyAny) {
+    case Status::readOnlyDisk:
+        return L"\"" + name + L"\" can't be written: its disk is read-only. Choose another disk.";
+    case Status::diskFull:
         return L"\"" + name + L"\" can't be written: the disk is full. Make room, or choose another disk.";
+    case Status::overQuota:
+        return L"\"" + name + L"\" can't be written: your quota is used up. Make room, or choose another disk.";
+    case Status::fileTooLarge:
+        return L"\"" + name + L"\" can't be written: its disk takes no file of this size. Choose another disk.";
+    case Status::nameTooLong:
+        return L"\"" + name + L"\" can't be written: its name is too long. Choose a shorter name.";
+    case Status::noMemory:
+        return L"\"" + name + L"\" can't be written: the memory is full. Close other programs and try again.";
+    case Status::modelTooLarge:
+        return L"\"" + name + L"\" can't be saved: the model is too large for this format. Choose another format.";
+    case Status::cannotWrite:
+        break;
     }
     return L"\"" + name + L"\" can't be written. Check the folder and the free space, or choose another place.";
 }
 
 ExportResult outcome(orvexp::Status status, std::wstring const& path)
 {
-    auto const name = orv::FileUtils::getStatusFileName(path.c_str());
-    switch (status) {
-    case orvexp::Status::ok:
-        return {0, L"\"" + name + L"\" was saved."};
-    case orvexp::Status::noLibrary:
-        return {static_cast<int>(status),
-                L"\"" + name + L"\" can't be saved: its exporter isn't installed. Choose another format."};
-    case orvexp::Status::nothingToWrite:
-        return {static_cast<int>(status), L"There is nothing to save in this format. Open a model with parts first."};
-    case orvexp::Status::cannotWrite:
-        break;
-    }
-    return {static_cast<int>(orvexp::Status::cannotWrite), reasonAgainst(path, name)};
+    return {static_cast<int>(status), sentenceFor(status, orv::FileUtils::getStatusFileName(path.c_str()))};
 }
 
 } // namespace
@@ -123,7 +108,7 @@ ExportResult exportDocument(std::shared_ptr<orv::IDocument> const& document, std
         return outcome(orvexp::Status::nothingToWrite, path);
     }
     try {
-        if (extensionOf(path) == deferredExtension) {
+        if (orvhost::extensionOf(path) == deferredExtension) {
             std::wstring error;
             if (auto const writer = loadDeferred(error)) {
                 return outcome(writer->save(path.c_str(), document, nullptr, status), path);

@@ -22,6 +22,8 @@
 
 #include <QGuiApplication>
 
+#include <afxwin.h>
+
 #include <utility>
 
 // The pictures are in a static library, so they have to be asked for; the macro works outside of namespaces alone.
@@ -260,6 +262,7 @@ bool ViewerSession::State::exportModel(std::wstring const& path)
 
 ExportResult ViewerSession::State::exportWithProgress(std::wstring const& path)
 {
+    CWaitCursor const busy;
     window->status().showProgress(1, orvexp::exportChannel);
     auto result = exportDocument(openDocument, path, &window->status());
     window->status().showProgress(0, orvexp::exportChannel);

@@ -500,6 +500,30 @@
         <translation>„%1“ kann nicht geschrieben werden: Der Datenträger ist voll. Schaffen Sie Platz, oder wählen Sie einen anderen.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Datenträger lässt sich nur lesen. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Ihr Speicherkontingent ist aufgebraucht. Schaffen Sie Platz, oder wählen Sie einen anderen Datenträger.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Datenträger nimmt keine Datei dieser Größe auf. Wählen Sie einen anderen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Name ist zu lang. Wählen Sie einen kürzeren Namen.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Arbeitsspeicher ist voll. Schließen Sie andere Programme, und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>„%1“ kann nicht gespeichert werden: Das Modell ist zu groß für dieses Format. Wählen Sie ein anderes Format.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>„%1“ kann nicht geschrieben werden. Prüfen Sie den Ordner und den freien Platz, oder wählen Sie einen anderen Ort.</translation>
     </message>

@@ -500,6 +500,30 @@
         <translation>No se puede escribir &quot;%1&quot;: el disco está lleno. Libere espacio o elija otro disco.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>No se puede escribir &quot;%1&quot;: el disco es de solo lectura. Elija otro disco.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>No se puede escribir &quot;%1&quot;: su cuota está agotada. Libere espacio o elija otro disco.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>No se puede escribir &quot;%1&quot;: el disco no admite archivos de este tamaño. Elija otro disco.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>No se puede escribir &quot;%1&quot;: el nombre es demasiado largo. Elija un nombre más corto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>No se puede escribir &quot;%1&quot;: la memoria está llena. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>No se puede guardar &quot;%1&quot;: el modelo es demasiado grande para este formato. Elija otro formato.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>No se puede escribir &quot;%1&quot;. Compruebe la carpeta y el espacio libre, o elija otro lugar.</translation>
     </message>

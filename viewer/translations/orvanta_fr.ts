@@ -500,6 +500,30 @@
         <translation>Impossible d&apos;écrire « %1 » : le disque est plein. Libérez de la place ou choisissez un autre disque.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>Impossible d&apos;écrire « %1 » : le disque est en lecture seule. Choisissez un autre disque.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>Impossible d&apos;écrire « %1 » : votre quota est épuisé. Libérez de l&apos;espace ou choisissez un autre disque.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>Impossible d&apos;écrire « %1 » : le disque n&apos;accepte pas de fichier de cette taille. Choisissez un autre disque.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>Impossible d&apos;écrire « %1 » : le nom est trop long. Choisissez un nom plus court.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>Impossible d&apos;écrire « %1 » : la mémoire est pleine. Fermez d&apos;autres programmes et réessayez.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>Impossible d&apos;enregistrer « %1 » : le modèle est trop grand pour ce format. Choisissez un autre format.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>Impossible d&apos;écrire « %1 ». Vérifiez le dossier et l&apos;espace libre, ou choisissez un autre emplacement.</translation>
     </message>

@@ -500,6 +500,30 @@
         <translation>「%1」に書き込めません。ディスクがいっぱいです。空き容量を増やすか、別のディスクを選択してください。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>「%1」に書き込めません。ディスクが読み取り専用です。別のディスクを選択してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>「%1」に書き込めません。割り当て容量を使い切っています。空き容量を増やすか、別のディスクを選択してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>「%1」に書き込めません。ディスクがこのサイズのファイルに対応していません。別のディスクを選択してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>「%1」に書き込めません。名前が長すぎます。短い名前を選択してください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>「%1」に書き込めません。メモリが不足しています。他のプログラムを終了して、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>「%1」を保存できません。モデルが大きすぎてこの形式では表せません。別の形式を選択してください。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>「%1」に書き込めません。フォルダーと空き容量を確認するか、別の場所を選択してください。</translation>
     </message>
@@ -613,7 +637,7 @@
     </message>
     <message>
         <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
-        <translation>描画するディスプレイがありません。「%1」をインストールするか、デスクトップ セッションからビューアーを起動してください。</translation>
+        <translation>描画する画面がありません。「%1」をインストールするか、デスクトップセッションからビューアーを起動してください。</translation>
     </message>
     <message numerus="yes">
         <source>%Ln part(s)</source>

@@ -500,6 +500,30 @@
         <translation>&quot;%1&quot;에 쓸 수 없습니다. 디스크가 가득 찼습니다. 공간을 확보하거나 다른 디스크를 선택하십시오.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 디스크가 읽기 전용입니다. 다른 디스크를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 할당된 용량을 모두 사용했습니다. 공간을 확보하거나 다른 디스크를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 디스크에 이 크기의 파일을 저장할 수 없습니다. 다른 디스크를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 이름이 너무 깁니다. 더 짧은 이름을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 메모리가 부족합니다. 다른 프로그램을 닫고 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>&quot;%1&quot;을(를) 저장할 수 없습니다. 모델이 이 형식에 비해 너무 큽니다. 다른 형식을 선택하십시오.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>&quot;%1&quot;에 쓸 수 없습니다. 폴더와 여유 공간을 확인하거나 다른 위치를 선택하십시오.</translation>
     </message>
@@ -613,7 +637,7 @@
     </message>
     <message>
         <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
-        <translation>그릴 디스플레이가 없습니다. &quot;%1&quot;을(를) 설치하거나 데스크톱 세션에서 뷰어를 시작하십시오.</translation>
+        <translation>그릴 화면이 없습니다. &quot;%1&quot;을(를) 설치하거나 데스크톱 세션에서 뷰어를 시작하십시오.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln part(s)</source>

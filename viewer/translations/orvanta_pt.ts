@@ -500,6 +500,30 @@
         <translation>&quot;%1&quot; não pode ser gravado: o disco está cheio. Libere espaço ou escolha outro disco.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>&quot;%1&quot; não pode ser gravado: o disco é somente leitura. Escolha outro disco.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>&quot;%1&quot; não pode ser gravado: sua cota está esgotada. Libere espaço ou escolha outro disco.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>&quot;%1&quot; não pode ser gravado: o disco não aceita arquivos deste tamanho. Escolha outro disco.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>&quot;%1&quot; não pode ser gravado: o nome é longo demais. Escolha um nome mais curto.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>&quot;%1&quot; não pode ser gravado: a memória está cheia. Feche outros programas e tente novamente.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>&quot;%1&quot; não pode ser salvo: o modelo é grande demais para este formato. Escolha outro formato.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>&quot;%1&quot; não pode ser gravado. Verifique a pasta e o espaço livre ou escolha outro lugar.</translation>
     </message>

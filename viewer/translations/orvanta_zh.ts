@@ -500,6 +500,30 @@
         <translation>无法写入“%1”：磁盘已满。请腾出空间或选择其他磁盘。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk is read-only. Choose another disk.</source>
+        <translation>无法写入“%1”：磁盘是只读的。请选择其他磁盘。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: your quota is used up. Make room, or choose another disk.</source>
+        <translation>无法写入“%1”：您的配额已用完。请腾出空间或选择其他磁盘。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its disk takes no file of this size. Choose another disk.</source>
+        <translation>无法写入“%1”：磁盘不支持这么大的文件。请选择其他磁盘。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: its name is too long. Choose a shorter name.</source>
+        <translation>无法写入“%1”：名称太长。请选择较短的名称。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
+        <translation>无法写入“%1”：内存不足。请关闭其他程序后重试。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; can&apos;t be saved: the model is too large for this format. Choose another format.</source>
+        <translation>无法保存“%1”：模型对于此格式来说太大。请选择其他格式。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written. Check the folder and the free space, or choose another place.</source>
         <translation>无法写入“%1”。请检查文件夹和可用空间，或选择其他位置。</translation>
     </message>
@@ -613,7 +637,7 @@
     </message>
     <message>
         <source>There is no display to draw on. Install &quot;%1&quot; or start the viewer from a desktop session.</source>
-        <translation>没有可用于绘制的显示器。请安装“%1”，或从桌面会话启动查看器。</translation>
+        <translation>没有可供绘制的显示器。请安装“%1”，或从桌面会话启动查看器。</translation>
     </message>
     <message numerus="yes">
         <source>%Ln part(s)</source>

@@ -61,7 +61,7 @@ TEST_P(ExporterPlugin, TakesItsExtensionAlone)
     EXPECT_FALSE(exporter->loadPreferences(nullptr));
     EXPECT_TRUE(exporter->takes(GetParam().path));
     EXPECT_TRUE(exporter->takes(GetParam().capital));
-    for (wchar_t const* const other : {L"", L"a", L"stl", L"/x.stl/a", L"a.stlx", L"a.", L".", L"a.xyz"}) {
+    for (wchar_t const* const other : {L"", L"a", L"stl", L"/x.stl/a", L"a.stlx", L"a.", L".", L"a.xyz", L".xyz"}) {
         EXPECT_FALSE(exporter->takes(other)) << std::filesystem::path(other);
     }
 }
@@ -76,25 +76,44 @@ TEST_P(ExporterPlugin, WritesAFileAndNothingElseButWhatTheFormatNeeds)
 TEST_P(ExporterPlugin, FolderOfThatNameStays)
 {
     std::filesystem::create_directory(fileIn(folder.path));
-    EXPECT_EQ(save(fileIn(folder.path)), Status::cannotWrite);
+    EXPECT_EQ(save(fileIn(folder.path)), Status::isFolder);
     EXPECT_TRUE(std::filesystem::is_directory(fileIn(folder.path)));
     EXPECT_EQ(filesIn(folder.path), 1U);
+}
+
+TEST_P(ExporterPlugin, NameThatIsTooLongIsAReasonOfItsOwn)
+{
+    auto const extension = fileIn("").extension().string();
+    std::size_t const longest = 255 - extension.size();
+    EXPECT_EQ(save(folder.path / (std::string(longest + 1, 'n') + extension)), Status::nameTooLong);
+    EXPECT_EQ(filesIn(folder.path), 0U);
+    EXPECT_EQ(save(folder.path / (std::string(longest, 'n') + extension)), Status::ok);
+}
+
+TEST_P(ExporterPlugin, FileOfTheBareExtensionIsOfThatType)
+{
+    auto const bare = folder.path / fileIn("").extension();
+    EXPECT_TRUE(loadExporter(GetParam().name)->takes(bare.wstring().c_str()));
+    ASSERT_EQ(save(fileIn(folder.path)), Status::ok);
+    ASSERT_EQ(save(bare), Status::ok);
+    EXPECT_EQ(contentOf(bare).substr(0, 5), contentOf(fileIn(folder.path)).substr(0, 5));
 }
 
 TEST_P(ExporterPlugin, ProtectedFileStays)
 {
     auto const file = writeFile(fileIn(folder.path), "kept");
     std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-    EXPECT_EQ(save(file), Status::cannotWrite);
+    EXPECT_EQ(save(file), Status::isProtected);
     EXPECT_EQ(contentOf(file), "kept");
     EXPECT_EQ(filesIn(folder.path), 1U);
 }
 
 TEST_P(ExporterPlugin, FolderThatTakesNoFileIsFound)
 {
-    EXPECT_EQ(save(fileIn(folder.path / "missing")), Status::cannotWrite);
+    EXPECT_EQ(save(fileIn(folder.path / "missing")), Status::noFolder);
+    EXPECT_EQ(save(fileIn(writeFile(folder.path / "file", ""))), Status::noFolder);
     EXPECT_EQ(save(fileIn("/proc")), Status::cannotWrite);
-    EXPECT_EQ(filesIn(folder.path), 0U);
+    EXPECT_EQ(filesIn(folder.path), 1U);
 }
 
 TEST_P(ExporterPlugin, FullDiskLeavesTheEarlierFile)
@@ -105,7 +124,7 @@ TEST_P(ExporterPlugin, FullDiskLeavesTheEarlierFile)
         prctest::FullDisk const disk(10);
         status = save(file);
     }
-    EXPECT_EQ(status, Status::cannotWrite);
+    EXPECT_EQ(status, Status::fileTooLarge);
     EXPECT_EQ(contentOf(file), "kept");
     EXPECT_EQ(filesIn(folder.path), 1U);
 }

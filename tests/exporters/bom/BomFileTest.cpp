@@ -3,6 +3,7 @@
 #include "exporters/CommandOutput.h"
 #include "exporters/ExportLibraries.h"
 #include "exporters/FullDisk.h"
+#include "exporters/bom/Csv.h"
 #include "host/orvsg/SCBom.h"
 #include "support/TestScene.h"
 #include "viewer/ModelFixture.h"
@@ -17,48 +18,6 @@ using testing::HasSubstr;
 
 namespace
 {
-
-using Lines = std::vector<std::vector<std::string>>;
-
-/// RFC 4180, strictly: lines end in CR LF, quotes are doubled within quotes.
-Lines parseCsv(std::string const& bytes)
-{
-    EXPECT_TRUE(bytes.starts_with("\xEF\xBB\xBF")) << "a spreadsheet has to know that it is UTF-8";
-    std::string const text = bytes.substr(3);
-    Lines lines;
-    std::vector<std::string> line;
-    std::string field;
-    bool isQuoted = false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char const c = text[i];
-        if (isQuoted) {
-            if (c != '"') {
-                field += c;
-            } else if (i + 1 < text.size() && text[i + 1] == '"') {
-                field += text[++i];
-            } else {
-                isQuoted = false;
-            }
-        } else if (c == '"') {
-            EXPECT_TRUE(field.empty());
-            isQuoted = true;
-        } else if (c == ',') {
-            line.push_back(std::move(field));
-            field.clear();
-        } else if (c == '\r') {
-            EXPECT_EQ(text[++i], '\n');
-            line.push_back(std::move(field));
-            field.clear();
-            lines.push_back(std::move(line));
-            line.clear();
-        } else {
-            EXPECT_NE(c, '\n');
-            field += c;
-        }
-    }
-    EXPECT_TRUE(field.empty() && line.empty() && !isQuoted) << "the last line ends as the others do";
-    return lines;
-}
 
 class BomFile : public testing::Test
 {
@@ -89,17 +48,17 @@ TEST_F(BomFile, CsvByPartCountsEachPartOverTheWholeModel)
 {
     scene.bom->reportLevel = 0;
     EXPECT_EQ(parseCsv(contentOf(save("a.csv"))),
-              (Lines{{"Item", "Part", "Quantity"}, {"1", "housing", "1"}, {"2", "shaft", "1"}, {"3", "gear", "2"}}));
+              (CsvLines{{"Item", "Part", "Quantity"}, {"1", "housing", "1"}, {"2", "shaft", "1"}, {"3", "gear", "2"}}));
 }
 
 TEST_F(BomFile, CsvByLevelFollowsTheTree)
 {
     scene.bom->reportLevel = 1;
-    EXPECT_EQ(parseCsv(contentOf(save("A.CSV"))), (Lines{{"Item", "Level", "Part", "Quantity", "Total"},
-                                                         {"1", "1", "housing", "1", "1"},
-                                                         {"2", "1", "shaft assembly", "1", "1"},
-                                                         {"2.1", "2", "shaft", "1", "1"},
-                                                         {"2.2", "2", "gear", "2", "2"}}));
+    EXPECT_EQ(parseCsv(contentOf(save("A.CSV"))), (CsvLines{{"Item", "Level", "Part", "Quantity", "Total"},
+                                                            {"1", "1", "housing", "1", "1"},
+                                                            {"2", "1", "shaft assembly", "1", "1"},
+                                                            {"2.1", "2", "shaft", "1", "1"},
+                                                            {"2.2", "2", "gear", "2", "2"}}));
 }
 
 TEST_F(BomFile, NamesThatLookLikeFormulasAreText)
@@ -247,7 +206,7 @@ TEST_F(BomFile, FullDiskLeavesNothing)
         prctest::FullDisk const disk(10);
         auto const file = folder.path / name;
         EXPECT_EQ(loadExporter("bomwriter")->save(file.wstring().c_str(), scene.document, nullptr, nullptr),
-                  orvexp::Status::cannotWrite);
+                  orvexp::Status::fileTooLarge);
     }
     EXPECT_TRUE(std::filesystem::is_empty(folder.path));
 }

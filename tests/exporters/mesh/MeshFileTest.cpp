@@ -269,7 +269,7 @@ TEST_P(MeshFile, FullDiskLeavesWhatWasThereAndNothingElse)
         prctest::FullDisk const disk(20000);
         status = save(sample);
     }
-    EXPECT_EQ(status, orvexp::Status::cannotWrite);
+    EXPECT_EQ(status, orvexp::Status::fileTooLarge);
     EXPECT_EQ(contentOf(file()), "old");
     EXPECT_EQ(files().size(), 1U);
 }

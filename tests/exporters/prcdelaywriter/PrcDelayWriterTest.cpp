@@ -110,7 +110,8 @@ TEST_F(PrcDelayWriterTest, SaysThatThereIsNothingToWrite)
 
 TEST_F(PrcDelayWriterTest, SaysThatItCannotWrite)
 {
-    EXPECT_EQ(save("missing/a.prc"), Status::cannotWrite);
+    EXPECT_EQ(save("missing/a.prc"), Status::noFolder);
+    EXPECT_EQ(save((std::string(252, 'n') + ".prc").c_str()), Status::nameTooLong);
     EXPECT_EQ(writer.save(L"", maker.document, nullptr, &bar), Status::cannotWrite);
     EXPECT_EQ(writer.save(nullptr, maker.document, nullptr, &bar), Status::cannotWrite);
     EXPECT_TRUE(isEmptyFolder());
@@ -123,7 +124,7 @@ TEST_F(PrcDelayWriterTest, LeavesNoPartOfAFileOnAFullDisk)
         prctest::FullDisk const disk(100);
         status = save("a.prc");
     }
-    EXPECT_EQ(status, Status::cannotWrite);
+    EXPECT_EQ(status, Status::fileTooLarge);
     EXPECT_TRUE(isEmptyFolder());
 }
 
