@@ -1,10 +1,9 @@
 #include "bench/DrainingServer.h"
 
-#include <netinet/in.h>
+#include "tests/support/Loopback.h"
+
 #include <netinet/tcp.h>
 #include <strings.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -31,17 +30,11 @@ std::uint64_t contentLength(std::string const& head)
 
 } // namespace
 
-DrainingServer::DrainingServer() : listener(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+DrainingServer::DrainingServer() : listener(orvtest::listenOnLoopback(port, 16))
 {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* const generic = reinterpret_cast<sockaddr*>(&address);
-    if (bind(listener, generic, size) != 0 || listen(listener, 16) != 0 || getsockname(listener, generic, &size) != 0) {
+    if (listener < 0) {
         throw std::runtime_error("no loopback port for the server");
     }
-    port = ntohs(address.sin_port);
     answerWith({});
     accepting = std::thread([this] { accept(); });
 }

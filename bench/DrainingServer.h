@@ -31,8 +31,8 @@ private:
     void accept();
     void serve(int connection);
 
-    int listener = -1;
     unsigned short port = 0;
+    int listener = -1;
     std::atomic<int> accepted = 0;
     std::atomic<std::uint64_t> answered = 0;
     std::atomic<std::uint64_t> drained = 0;

@@ -52,6 +52,21 @@ Pair::Pair(std::string title, Work plainWork, Work ownWork)
 {
 }
 
+void Pair::addBenchmark(int iterations, benchmark::TimeUnit unit, std::function<void()> prepare,
+                        std::function<void()> release)
+{
+    auto const whole = [this, prepare = std::move(prepare), release = std::move(release)](benchmark::State& state) {
+        if (prepare) {
+            prepare();
+        }
+        run(state);
+        if (release) {
+            release();
+        }
+    };
+    benchmark::RegisterBenchmark(name.c_str(), whole)->UseManualTime()->Unit(unit)->Iterations(iterations);
+}
+
 void Pair::run(benchmark::State& state)
 {
     isBegun = true;

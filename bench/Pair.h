@@ -17,6 +17,11 @@ public:
     /// `name` is the benchmark's; `plain` is what `own` is compared with.
     Pair(std::string name, Work plain, Work own);
 
+    /// Makes it a benchmark of its title, in this many iterations. It must stay in its place until that has run;
+    /// `prepare` runs before and `release` after it.
+    void addBenchmark(int iterations, benchmark::TimeUnit unit = benchmark::kMicrosecond,
+                      std::function<void()> prepare = {}, std::function<void()> release = {});
+
     /// One round of each in each iteration, in alternating order. The benchmark's own time is that of `own`.
     void run(benchmark::State& state);
 

@@ -163,15 +163,7 @@ int main(int argc, char** argv)
     }
     benchmark::Initialize(&argc, argv);
     for (Case& each : cases) {
-        auto const run = [&each](benchmark::State& state) {
-            each.prepare();
-            each.pair.run(state);
-            each.release();
-        };
-        benchmark::RegisterBenchmark(each.pair.title().c_str(), run)
-            ->UseManualTime()
-            ->Unit(benchmark::kMicrosecond)
-            ->Iterations(each.iterations);
+        each.pair.addBenchmark(each.iterations, benchmark::kMicrosecond, each.prepare, each.release);
     }
     benchmark::RunSpecifiedBenchmarks();
 

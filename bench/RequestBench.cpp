@@ -139,14 +139,8 @@ int main(int argc, char** argv)
 
     benchmark::Initialize(&argc, argv);
     for (Case& each : cases) {
-        auto const run = [&](benchmark::State& state) {
-            requests.setAnswerLength(each.answerLength);
-            each.pair.run(state);
-        };
-        benchmark::RegisterBenchmark(each.pair.title().c_str(), run)
-            ->UseManualTime()
-            ->Unit(benchmark::kMicrosecond)
-            ->Iterations(each.iterations);
+        each.pair.addBenchmark(each.iterations, benchmark::kMicrosecond,
+                               [&requests, &each] { requests.setAnswerLength(each.answerLength); });
     }
     benchmark::RunSpecifiedBenchmarks();
 

@@ -156,11 +156,7 @@ int main(int argc, char** argv)
         std::string const title = std::string(name).append("/").append(std::to_string(times)).append(" times");
         auto const plain = [&stage, times] { return stage.drawn(times) && stage.of(times).redraw(); };
         auto const own = [&stage, times, work] { return stage.drawn(times) && (stage.of(times).*work)(); };
-        auto& pair = pairs.emplace_back(title, plain, own);
-        benchmark::RegisterBenchmark(title.c_str(), [&pair](benchmark::State& state) { pair.run(state); })
-            ->UseManualTime()
-            ->Unit(benchmark::kMillisecond)
-            ->Iterations(iterations);
+        pairs.emplace_back(title, plain, own).addBenchmark(iterations, benchmark::kMillisecond);
     };
     for (auto const& [times, iterations] : {std::pair{1, 100}, std::pair{600, 4}}) {
         add("Snapshot", times, iterations, &Viewer::snapshot);

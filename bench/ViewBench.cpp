@@ -71,12 +71,7 @@ int main(int argc, char** argv)
     benchmark::Initialize(&argc, argv);
     auto const add = [&cases](orvbench::Pair pair, double limit, double processorLimit, int iterations) {
         cases.push_back(std::make_unique<Case>(Case{std::move(pair), limit, processorLimit}));
-        Case& added = *cases.back();
-        auto const run = [&added](benchmark::State& state) { added.pair.run(state); };
-        benchmark::RegisterBenchmark(added.pair.title().c_str(), run)
-            ->UseManualTime()
-            ->Unit(benchmark::kMicrosecond)
-            ->Iterations(iterations);
+        cases.back()->pair.addBenchmark(iterations);
     };
     for (int const nodes : {1000, 100000, 1000000}) {
         auto const scene = std::make_shared<Scene>(nodes);

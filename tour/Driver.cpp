@@ -68,47 +68,39 @@ bool Driver::openModel(std::wstring const& path)
     return opened;
 }
 
-bool Driver::fillAndLogIn(CWnd& dialog, QString const& email, QString const& password) const
+bool Driver::logIn(QString const& email, QString const& password, std::function<void(CWnd&)> const& then) const
 {
-    bool const typed = input::typeText(dialog, control::email, email.toStdWString()) &&
-                       input::typeText(dialog, control::password, password.toStdWString());
-    step("login-dialog");
-    return typed && input::clickButton(dialog, control::login);
+    CWnd* const prompt = dialogWith(window(), control::prompt);
+    if (prompt == nullptr) {
+        return false;
+    }
+    bool done = false;
+    input::ModalScript script(options.failure);
+    script.expectModal<CDialog>([&](CDialog& dialog) {
+        bool const typed = input::typeText(dialog, control::email, email.toStdWString()) &&
+                           input::typeText(dialog, control::password, password.toStdWString());
+        step("login-dialog");
+        done = typed && input::clickButton(dialog, control::login);
+        then(dialog);
+        return IDCANCEL;
+    });
+    return input::clickButton(*prompt, control::prompt) && done;
 }
 
 bool Driver::signIn(QString const& email, QString const& password)
 {
-    CWnd* const prompt = dialogWith(window(), control::prompt);
-    if (prompt == nullptr) {
-        return false;
-    }
-    bool done = false;
-    input::ModalScript script(options.failure);
-    script.expectModal<CDialog>([&](CDialog& dialog) {
-        done = fillAndLogIn(dialog, email, password);
-        return IDCANCEL;
-    });
-    bool const pressed = input::clickButton(*prompt, control::prompt);
+    bool const done = logIn(email, password, [](CWnd&) {});
     input::processEvents();
     step("signed-in");
-    return pressed && done;
+    return done;
 }
 
 bool Driver::trySignIn(QString const& email, QString const& password, bool& stillOpen, QString& typed)
 {
-    CWnd* const prompt = dialogWith(window(), control::prompt);
-    if (prompt == nullptr) {
-        return false;
-    }
-    bool done = false;
-    input::ModalScript script(options.failure);
-    script.expectModal<CDialog>([&](CDialog& dialog) {
-        done = fillAndLogIn(dialog, email, password);
+    return logIn(email, password, [&](CWnd& dialog) {
         stillOpen = dialog.GetSafeHwnd() != nullptr && dialog.IsWindowVisible();
         typed = QString::fromStdWString(input::textOf(dialog, control::email));
-        return IDCANCEL;
     });
-    return input::clickButton(*prompt, control::prompt) && done;
 }
 
 bool Driver::signOut()

@@ -77,7 +77,8 @@ public:
 private:
     QWidget& window() const;
     void step(QString const& name) const;
-    bool fillAndLogIn(CWnd& dialog, QString const& email, QString const& password) const;
+    /// Presses the prompt's button, fills the dialog that opens and logs in; `then` sees the dialog after that.
+    bool logIn(QString const& email, QString const& password, std::function<void(CWnd&)> const& then) const;
 
     Options options;
     std::unique_ptr<orvviewer::ViewerSession> viewer;

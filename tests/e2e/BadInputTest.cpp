@@ -81,14 +81,7 @@ TEST_P(BadAddress, ALoginAgainstItFailsWithTheGivenWords)
     }
     auto driver = startViewer(QString::fromStdString(server.url()));
     ASSERT_TRUE(driver->openModel(sampleModel())) << driver->status();
-    bool stillOpen = false;
-    QString typed;
-    ASSERT_TRUE(driver->trySignIn(email, password, stillOpen, typed));
-    EXPECT_EQ(driver->status(), "Login failed, please login again.");
-    EXPECT_TRUE(stillOpen);
-    EXPECT_EQ(typed, email);
-    EXPECT_TRUE(driver->hasPrompt());
-    EXPECT_FALSE(QFile::exists(sessionFile()));
+    expectLoginToFail(*driver);
 }
 
 INSTANTIATE_TEST_SUITE_P(Services, BadAddress,
@@ -108,11 +101,7 @@ TEST_F(BadInput, AServiceThatDoesNotAnswerIsAFailedLogin)
     }
     auto driver = startViewer(url);
     ASSERT_TRUE(driver->openModel(sampleModel())) << driver->status();
-    bool stillOpen = false;
-    QString typed;
-    ASSERT_TRUE(driver->trySignIn(email, password, stillOpen, typed));
-    EXPECT_EQ(driver->status(), "Login failed, please login again.");
-    EXPECT_TRUE(stillOpen);
+    expectLoginToFail(*driver);
 }
 
 // Silence is right for a session file that can't be used: nobody is signed in, and signing in still works.

@@ -1,6 +1,7 @@
 #include "tests/e2e/RoadTest.h"
 
 #include <QDir>
+#include <QFile>
 #include <QtGlobal>
 
 #include <ostream>
@@ -34,6 +35,18 @@ RoadTest::RoadTest()
 RoadTest::~RoadTest()
 {
     qInstallMessageHandler(earlier);
+}
+
+void RoadTest::expectLoginToFail(orvtour::Driver& driver)
+{
+    bool stillOpen = false;
+    QString typed;
+    EXPECT_TRUE(driver.trySignIn(email, password, stillOpen, typed));
+    EXPECT_EQ(driver.status(), "Login failed, please login again.");
+    EXPECT_TRUE(stillOpen);
+    EXPECT_EQ(typed, email);
+    EXPECT_TRUE(driver.hasPrompt());
+    EXPECT_FALSE(QFile::exists(sessionFile()));
 }
 
 void RoadTest::startService()

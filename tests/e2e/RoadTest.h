@@ -23,6 +23,8 @@ protected:
     void startService();
     /// A viewer on the service (or on another address), its window on the screen.
     std::unique_ptr<orvtour::Driver> startViewer(QString const& url = {}, std::wstring const& language = L"en");
+    /// Tries to sign in, and expects the words of a failed login, the dialog open with what was typed, and no session.
+    void expectLoginToFail(orvtour::Driver& driver);
     /// A user's folder need not have a name in ASCII.
     QString viewerData() const { return data.filePath(QString::fromUtf8("Zo\u00eb \u6b6f\u8eca")); }
     QString sessionFile() const { return viewerData() + "/Cloud/temp"; }

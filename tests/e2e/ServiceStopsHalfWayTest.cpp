@@ -34,14 +34,7 @@ protected:
 TEST_F(ServiceStopsHalfWay, BeforeSigningInTheDialogStaysWithWhatWasTyped)
 {
     ASSERT_TRUE(service->stop());
-    bool stillOpen = false;
-    QString typed;
-    ASSERT_TRUE(driver->trySignIn(email, password, stillOpen, typed));
-    EXPECT_EQ(driver->status(), "Login failed, please login again.");
-    EXPECT_TRUE(stillOpen);
-    EXPECT_EQ(typed, email);
-    EXPECT_TRUE(driver->hasPrompt());
-    EXPECT_FALSE(QFile::exists(sessionFile()));
+    expectLoginToFail(*driver);
 
     // Once it is back, the same road goes on.
     ASSERT_TRUE(service->start(service->port())) << service->errorText();

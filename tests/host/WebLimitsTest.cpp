@@ -2,6 +2,7 @@
 
 #include "host/orvweb/CurlTransport.h"
 #include "support/HostSession.h"
+#include "support/Loopback.h"
 #include "support/ScriptedHttpServer.h"
 
 #include <gtest/gtest.h>
@@ -11,11 +12,6 @@
 #include <string>
 #include <thread>
 #include <vector>
-
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 using orv::ErrorCode;
 using orvtest::Answer;
@@ -30,20 +26,16 @@ using Clock = std::chrono::steady_clock;
 class FullPort
 {
 public:
-    FullPort() : listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+    FullPort() : listener(orvtest::listenOnLoopback(port, 0))
     {
+        EXPECT_GE(listener, 0);
         sockaddr_in address{};
         address.sin_family = AF_INET;
         address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        auto* const generic = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(::bind(listener, generic, size), 0);
-        EXPECT_EQ(::listen(listener, 0), 0);
-        EXPECT_EQ(::getsockname(listener, generic, &size), 0);
-        port = ntohs(address.sin_port);
+        address.sin_port = htons(port);
         for (int i = 0; i < 4; ++i) {
             waiting.push_back(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
-            static_cast<void>(::connect(waiting.back(), generic, size));
+            static_cast<void>(::connect(waiting.back(), reinterpret_cast<sockaddr*>(&address), sizeof address));
         }
     }
     ~FullPort()

@@ -2,6 +2,7 @@
 
 #include "host/orvweb/CurlTransport.h"
 #include "support/HostSession.h"
+#include "support/Loopback.h"
 
 #include <gtest/gtest.h>
 
@@ -14,11 +15,7 @@
 #include <thread>
 #include <utility>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
 #include <openssl/err.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 using orv::ErrorCode;
 using orvtest::Subject;
@@ -35,18 +32,9 @@ class TlsServer
 {
 public:
     explicit TlsServer(TlsContext tlsContext, bool hangsUpInTheMiddle = false)
-        : context(std::move(tlsContext)), hangsUp(hangsUpInTheMiddle),
-          listener(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0))
+        : context(std::move(tlsContext)), hangsUp(hangsUpInTheMiddle), listener(orvtest::listenOnLoopback(port, 1))
     {
-        sockaddr_in address{};
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t size = sizeof address;
-        auto* const generic = reinterpret_cast<sockaddr*>(&address);
-        EXPECT_EQ(::bind(listener, generic, size), 0);
-        EXPECT_EQ(::listen(listener, 1), 0);
-        EXPECT_EQ(::getsockname(listener, generic, &size), 0);
-        port = ntohs(address.sin_port);
+        EXPECT_GE(listener, 0);
         thread = std::thread([this] { serve(); });
     }
     ~TlsServer() { finish(); }

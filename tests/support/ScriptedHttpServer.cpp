@@ -1,5 +1,7 @@
 #include "support/ScriptedHttpServer.h"
 
+#include "support/Loopback.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,13 +10,9 @@
 #include <optional>
 #include <sstream>
 
-#include <arpa/inet.h>
 #include <fcntl.h>
-#include <netinet/in.h>
 #include <poll.h>
 #include <strings.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace orvtest
 {
@@ -101,18 +99,11 @@ struct ScriptedHttpServer::Connection {
 
 ScriptedHttpServer::ScriptedHttpServer()
 {
-    listener = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    auto* const generic = reinterpret_cast<sockaddr*>(&address);
-    socklen_t size = sizeof address;
-    if (listener < 0 || ::bind(listener, generic, size) != 0 || ::listen(listener, 16) != 0 ||
-        ::getsockname(listener, generic, &size) != 0 || ::pipe2(wake, O_CLOEXEC) != 0) {
+    listener = listenOnLoopback(listeningPort, 16, SOCK_NONBLOCK);
+    if (listener < 0 || ::pipe2(wake, O_CLOEXEC) != 0) {
         ADD_FAILURE() << "no loopback port for the scripted server";
         std::abort();
     }
-    listeningPort = ntohs(address.sin_port);
     thread = std::thread([this] { run(); });
 }
 
