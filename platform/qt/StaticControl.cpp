@@ -120,6 +120,10 @@ QRect textRoom(const QLabel& label)
     QRect room = label.contentsRect();
     if (!label.parentWidget() || !label.wordWrap())
         return room;
+    // What reaches out of the window isn't seen.
+    const QRect seen = label.parentWidget()->rect().translated(-label.pos()).intersected(room);
+    if (!seen.isEmpty())
+        room = seen;
     const auto neighbours = label.parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly);
     for (const QAbstractButton* button : neighbours) {
         const QRect covered = button->geometry().translated(-label.pos()).intersected(room);

@@ -14,7 +14,8 @@ namespace orvplatform
 // Labels and pictures, by style.
 HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent);
 
-// Where a label draws its text: all of its place but what a shown button covers at its right end.
+// Where a label draws its text: all of its place that lies in its window, but what a shown button covers at its right
+// end.
 QRect textRoom(const QLabel& label);
 
 // The font in which a label draws its text: its own, or a smaller one, by two fifths at most, where the text would be

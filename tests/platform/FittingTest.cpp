@@ -108,6 +108,21 @@ TEST_F(Fitting, LeavesALabelThatNothingHelps)
     EXPECT_EQ(orvplatform::fittedFont(made), made.font());
 }
 
+TEST_F(Fitting, KeepsALabelsTextInsideItsWindow)
+{
+    QLabel& made = makeLabel(180, 30, L"Nov 15, 2026\n16:11 PM");
+    QFont font = made.font();
+    font.setPixelSize(12);
+    made.setFont(font);
+    ASSERT_EQ(orvplatform::fittedFont(made), made.font());
+    QWidget& window = *made.parentWidget();
+    made.move(made.x(), window.height() - 26); // four lines of pixels stand below the window
+    EXPECT_EQ(orvplatform::textRoom(made), QRect(0, 0, 180, 26));
+    const QFont fitted = orvplatform::fittedFont(made);
+    EXPECT_LT(QFontInfo(fitted).pixelSize(), 12);
+    EXPECT_LE(2 * QFontMetrics(fitted).height(), 26);
+}
+
 TEST_F(Fitting, LeavesAShownButtonAtTheRightEndItsPlace)
 {
     QLabel& made = makeLabel(180, 30, L"Nov 15, 2026 16:11 PM");

@@ -4,6 +4,7 @@
 
 #include "resources/ContactSheet.h"
 #include "resources/WidgetFit.h"
+#include "ui/ResourceIds.h"
 #include "ui/account/CloudLoginDlg.h"
 #include "ui/account/SettingsDlg.h"
 #include "ui/feed/FeedPaneFixture.h"
@@ -14,6 +15,7 @@
 #include <afxcontrolbars.h>
 
 #include <QDir>
+#include <QPainter>
 
 using namespace orvtest;
 using orvplatform::testing::clickButton;
@@ -108,6 +110,54 @@ protected:
         return {withPicture};
     }
 
+    /// The pixels that a control draws, in its window.
+    static QImage inkOf(QWidget const& window, int id)
+    {
+        QWidget& control = *orvplatform::widgetOf(GetDlgItem(orvplatform::handleOf(const_cast<QWidget*>(&window)), id));
+        QImage ink(window.size() + QSize(0, 100), QImage::Format_ARGB32_Premultiplied); // what stands lower, too
+        ink.fill(Qt::transparent);
+        if (control.isVisibleTo(&window)) {
+            QPainter painter(&ink);
+            control.render(&painter, control.pos(), QRegion(), QWidget::DrawChildren);
+        }
+        return ink;
+    }
+    static int pixelsOf(QImage const& ink, QImage const& other)
+    {
+        int count = 0;
+        for (int y = 0; y < ink.height(); ++y) {
+            for (int x = 0; x < ink.width(); ++x) {
+                count += qAlpha(ink.pixel(x, y)) > 48 && qAlpha(other.pixel(x, y)) > 48 ? 1 : 0;
+            }
+        }
+        return count;
+    }
+    /// Expects that the first comment shows all of its texts, and none on another or on the bin. The boxes of date and
+    /// bin lie on the picture's upper edge, that is meant.
+    void expectBlockFits(bool hasPicture)
+    {
+        auto const last = groups().back();
+        QWidget const& block = *orvplatform::widgetOf(last.window);
+        for (auto const& sentence : restest::misfits(block)) {
+            EXPECT_EQ(sentence.find(" needs "), std::string::npos) << sentence;
+        }
+        QImage const content = inkOf(block, resource::control::commentText);
+        QImage const date = inkOf(block, resource::control::publishingDate);
+        QImage const bin = inkOf(block, resource::control::deleteComment);
+        QImage const picture = inkOf(block, resource::control::thumbnail);
+        EXPECT_GT(pixelsOf(content, content), 100);
+        EXPECT_GT(pixelsOf(bin, bin), 40);
+        EXPECT_EQ(pixelsOf(date, date) > 40, hasPicture);
+        EXPECT_EQ(pixelsOf(picture, picture) > 1000, hasPicture);
+        EXPECT_EQ(pixelsOf(content, bin), 0);
+        EXPECT_EQ(pixelsOf(content, date), 0);
+        EXPECT_EQ(pixelsOf(content, picture), 0);
+        EXPECT_EQ(pixelsOf(date, bin), 0);
+        QImage below(content.size(), QImage::Format_ARGB32_Premultiplied);
+        below.fill(Qt::transparent);
+        QPainter(&below).fillRect(0, block.height(), below.width(), below.height(), Qt::black);
+        EXPECT_EQ(pixelsOf(content, below), 0) << "cut off at the lower edge";
+    }
     /// Expects that a window with so many texts shows all of them.
     static Look fits(int texts)
     {
@@ -159,6 +209,25 @@ TEST_P(LayoutTest, PaneOfASignedInUserFits)
 {
     signIn();
     showPane(fits(3), {});
+}
+
+TEST_P(LayoutTest, ABlockWithAPictureFits)
+{
+    signIn();
+    std::wstring const sentence = text(129);
+    std::wstring const date = L"Nov 30, 2026 23:59 PM";
+    for (std::wstring const& content : {sentence, sentence + L" " + sentence + L" " + sentence}) {
+        auto feeds = oneComment();
+        feeds.front().comment.content = content;
+        feeds.front().comment.publishedTime = date;
+        showPane([&](CWnd&) { expectBlockFits(true); }, feeds);
+    }
+}
+
+TEST_P(LayoutTest, ABlockWithoutAPictureFits)
+{
+    signIn();
+    showPane([&](CWnd&) { expectBlockFits(false); }, {comment(text(129))});
 }
 
 TEST_P(LayoutTest, TheGroupsAreAsHighAsWhatTheyHold)
