@@ -6,6 +6,9 @@
 # tests in so many processes at once, for suites that do little but wait.
 find_package(GTest REQUIRED)
 
+# What a suite sees of the system's language, whoever runs it: none. A test of another language sets that itself.
+set(ORV_TEST_LANGUAGE "LC_ALL=C.UTF-8;LANGUAGE=")
+
 function(orv_add_suite)
   cmake_parse_arguments(SUITE "XVFB" "NAME;TIMEOUT;SHARDS" "SOURCES;LIBS;DEPENDS" ${ARGN})
   if(NOT BUILD_TESTING)
@@ -36,5 +39,5 @@ function(orv_add_suite)
   if(NOT SUITE_TIMEOUT)
     set(SUITE_TIMEOUT 300)
   endif()
-  set_tests_properties(${SUITE_NAME} PROPERTIES ENVIRONMENT "${environment}" TIMEOUT ${SUITE_TIMEOUT})
+  set_tests_properties(${SUITE_NAME} PROPERTIES ENVIRONMENT "${environment};${ORV_TEST_LANGUAGE}" TIMEOUT ${SUITE_TIMEOUT})
 endfunction()

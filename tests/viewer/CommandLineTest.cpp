@@ -1,4 +1,5 @@
 #include "viewer/app/CommandLine.h"
+#include "tests/support/ScopedVariables.h"
 
 #include <gtest/gtest.h>
 
@@ -62,6 +63,7 @@ TEST(CommandLine, AnswersMistakesWithASentence)
 
 TEST(CommandLine, KnowsTheSystemsLanguage)
 {
+    orvtest::ScopedVariables const earlier{"LC_ALL"};
     ::setenv("LC_ALL", "fr_FR.UTF-8", 1);
     EXPECT_EQ(orvviewer::systemLanguage(), L"fr");
     ::setenv("LC_ALL", "C", 1);

@@ -1,3 +1,4 @@
+#include "tests/support/ScopedVariables.h"
 #include "tests/viewer/SessionFixture.h"
 
 #include "host/orvsgutils/ResourceLoader.h"
@@ -209,16 +210,16 @@ TEST_P(LanguageFiles, SayNothingInEnglish)
 {
     // Words that are the same in the language; and names, units and marks.
     std::map<std::string, std::set<QString>> const alike{
-        {"fr", {"Message", "Perspective", "&Opaque", "Transparence", "Options", "Orange", "Violet"}},
-        {"de", {"Parts", "Orange", "Isometric"}},
+        {"fr", {"Message", "Perspective", "&Opaque", "Options", "Orange", "Violet"}},
+        {"de", {"Orange"}},
         {"es", {"General"}},
-        {"pt", {}},
     };
     std::set<QString> const everywhere{"%1 %", " mm", "OK"};
     auto const own = alike.find(GetParam());
     for (auto const& [text, translation] : translationsOf(GetParam())) {
-        bool const isAlike = everywhere.contains(text) || (own != alike.end() && own->second.contains(text));
-        EXPECT_TRUE(isAlike || translation != text) << text.toStdString();
+        if (!everywhere.contains(text)) { // those may be alike
+            EXPECT_EQ(translation == text, own != alike.end() && own->second.contains(text)) << text.toStdString();
+        }
     }
 }
 
@@ -263,18 +264,19 @@ INSTANTIATE_TEST_SUITE_P(Languages, LanguageFiles, testing::ValuesIn(translated)
 
 TEST(Language, IsTheOneAskedForThenThePreferredThenTheSystems)
 {
+    orvtest::ScopedVariables const earlier{"LC_ALL", "LC_MESSAGES", "LANG"};
     setenv("LC_ALL", "fr_CA.UTF-8", 1);
     EXPECT_EQ(chooseLanguage(L"de", L"ja"), L"de");
     EXPECT_EQ(chooseLanguage(L"", L"ja"), L"ja");
     EXPECT_EQ(chooseLanguage(L"", L""), L"fr");
     setenv("LC_ALL", "it_IT.UTF-8", 1);
     EXPECT_EQ(chooseLanguage(L"", L""), L"en");
-    unsetenv("LC_ALL");
     EXPECT_EQ(chooseLanguage(L"xx", L"de"), L"en");
 }
 
 TEST(Language, OfTheSystemIsTheFirstVariablesThatSaysOne)
 {
+    orvtest::ScopedVariables const earlier{"LC_ALL", "LC_MESSAGES", "LANG"};
     auto const expect = [](char const* all, char const* messages, char const* lang, wchar_t const* language) {
         setenv("LC_ALL", all, 1);
         setenv("LC_MESSAGES", messages, 1);
@@ -291,9 +293,6 @@ TEST(Language, OfTheSystemIsTheFirstVariablesThatSaysOne)
     expect("", "", "deu_DE", L"en"); // three letters are no German
     expect("", "", "fil_PH.UTF-8", L"en");
     expect("", "", "kok_IN", L"en"); // Konkani isn't Korean
-    for (char const* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        unsetenv(name);
-    }
 }
 
 TEST_F(LanguageTest, APluginThatFailedSpeaksTheLanguage)
@@ -303,8 +302,8 @@ TEST_F(LanguageTest, APluginThatFailedSpeaksTheLanguage)
         << QString::fromStdWString(session->statusText()).toStdString();
     writeFile(guiFolder() / "cloudplugin.so", "this is no library");
     startIn(L"de");
-    EXPECT_EQ(session->statusText().rfind(L"Die Bibliothek „cloudplugin.so“ kann nicht geladen werden: „", 0), 0U)
-        << QString::fromStdWString(session->statusText()).toStdString();
+    EXPECT_EQ(session->statusText(), L"Die Bibliothek „cloudplugin.so“ kann nicht geladen werden: „file too short“. "
+                                     L"Installieren Sie Orvanta erneut, und starten Sie es neu.");
 }
 
 TEST_F(LanguageTest, NamesMayHoldQuotationMarks)
@@ -388,7 +387,6 @@ TEST_F(LanguageTest, SentencesNameTheFileInTheLanguage)
     EXPECT_FALSE(session->openModel((folder.path / "leer %1.step").wstring()));
     EXPECT_EQ(session->statusText(),
               L"„leer %1.step“ ist leer. Exportieren Sie das Modell erneut, und öffnen Sie die neue Datei.");
-    EXPECT_NE(session->statusText(), orvviewer::localizedSentence(L"A sentence that nobody knows."));
     EXPECT_EQ(orvviewer::localizedSentence(L"A sentence that nobody knows."), L"A sentence that nobody knows.");
 }
 

@@ -37,12 +37,22 @@ protected:
                                    guiFolder() / "cloudplugin.so");
     }
 
+    /// Puts the product's exporters where this viewer looks. The suite depends on them.
+    void installExporters() const
+    {
+        for (char const* const kind : {"export", "delay"}) {
+            std::filesystem::copy(std::filesystem::path(ORV_BINARY_DIR) / "lib" / kind, folder.path / "lib" / kind,
+                                  std::filesystem::copy_options::recursive);
+        }
+    }
+
     orvviewer::ViewerSession& start()
     {
         session.reset();
         orvhost::Settings settings;
         settings.dataDirectory = (folder.path / "data").wstring();
         settings.libraryDirectory = (folder.path / "lib").wstring();
+        settings.language = L"en";
         session = std::make_unique<orvviewer::ViewerSession>(settings);
         return *session;
     }
