@@ -1,5 +1,8 @@
 #include "tests/viewer/ModelFixture.h"
 
+#include "host/runtime/Runtime.h"
+#include "viewer/app/Preferences.h"
+
 #include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -70,6 +73,34 @@ TEST(Program, AnswersABadFileOnStandardError)
     EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.errors.find("ends too early"), std::string::npos) << run.errors;
     EXPECT_FALSE(std::filesystem::exists(picture));
+}
+
+TEST(Program, AnswersInTheLanguageOfTheOptionsOrTheOneAskedFor)
+{
+    TemporaryFolder const folder;
+    auto const bad = writeFile(folder.path / "leer.step", "");
+    QStringList const arguments{text(bad), "--screenshot", text(folder.path / "view.png")};
+    std::string const german =
+        "orvanta: „leer.step“ ist leer. Exportieren Sie das Modell erneut, und öffnen Sie die neue Datei.\n";
+    EXPECT_NE(runViewer(folder, arguments).errors.find("\"leer.step\" is empty."), std::string::npos);
+    auto const expectGerman = [&](QStringList const& line) {
+        auto const errors = runViewer(folder, line).errors; // the toolkit may have a word of its own before it
+        EXPECT_TRUE(errors.ends_with(german)) << errors;
+    };
+    expectGerman(QStringList{"--language", "de"} + arguments);
+    {
+        orvhost::Settings const earlier = orvhost::settings();
+        orvhost::Settings settings;
+        settings.dataDirectory = (folder.path / "data").wstring();
+        orvhost::configure(settings);
+        orvviewer::ViewerPreferences preferences;
+        preferences.language = L"de";
+        preferences.save();
+        orvhost::configure(earlier);
+    }
+    expectGerman(arguments);
+    EXPECT_NE(runViewer(folder, QStringList{"--language", "en"} + arguments).errors.find("\"leer.step\" is empty."),
+              std::string::npos);
 }
 
 TEST(Program, AnswersAnUnknownFormatOnStandardError)

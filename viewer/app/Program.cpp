@@ -8,6 +8,7 @@
 #include "viewer/app/Headless.h"
 #include "viewer/app/Language.h"
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/Preferences.h"
 #include "viewer/app/ViewerSession.h"
 
 #include <QApplication>
@@ -75,7 +76,8 @@ int runProgram(int count, char** arguments)
     QApplication::setApplicationVersion(ORVANTA_VERSION);
     auto settings = settingsFor(line);
     if (line.isHeadless()) {
-        settings.language = chooseLanguage(line.language, {});
+        orvhost::configure(settings); // the preferences are found by it
+        settings.language = chooseLanguage(line.language, ViewerPreferences::load().language);
         useViewerLanguage(settings.language);
         orvhost::configure(std::move(settings));
         return runHeadless(line);
