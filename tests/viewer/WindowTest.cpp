@@ -198,7 +198,7 @@ TEST_F(WindowTest, ShowsTheModelAndThePluginInEachLanguage)
 {
     installCloudPlugin();
     std::set<QByteArray> corners;
-    for (wchar_t const* const code : {L"en", L"de", L"fr", L"es", L"ja", L"ko", L"zh"}) {
+    for (wchar_t const* const code : {L"en", L"de", L"fr", L"es", L"ja", L"ko", L"zh", L"pt"}) {
         SCOPED_TRACE(orvtext::toUtf8(code));
         session.reset();
         orvhost::Settings settings;
@@ -226,5 +226,5 @@ TEST_F(WindowTest, ShowsTheModelAndThePluginInEachLanguage)
         auto const cube = shown.copy(QRect(corner, QSize(144, 144))).convertToFormat(QImage::Format_RGB32);
         corners.emplace(reinterpret_cast<char const*>(cube.constBits()), cube.sizeInBytes());
     }
-    EXPECT_EQ(corners.size(), 7U) << "the view cube's sides have names in the language";
+    EXPECT_EQ(corners.size(), 8U) << "the view cube's sides have names in the language";
 }
