@@ -4,6 +4,7 @@
 
 #include <ctime>
 #include <stdexcept>
+#include <string_view>
 
 namespace orvexport
 {
@@ -28,15 +29,27 @@ void check(cairo_status_t status)
     }
 }
 
-std::string printable(std::string text)
+/// Whether a character of three bytes stands there that turns the direction of what follows: U+202A to U+202E and
+/// U+2066 to U+2069. A name of somebody else's file could read as another by it.
+bool turnsText(std::string_view text)
 {
-    for (char& c : text) {
-        auto const code = static_cast<unsigned char>(c);
-        if (code < 0x20 || code == 0x7F) {
-            c = ' ';
+    return text.starts_with("\xE2\x80") && text.size() > 2
+               ? text[2] >= '\xAA' && text[2] <= '\xAE'
+               : text.starts_with("\xE2\x81") && text.size() > 2 && text[2] >= '\xA6' && text[2] <= '\xA9';
+}
+
+std::string printable(std::string_view text)
+{
+    std::string result;
+    while (!text.empty()) {
+        auto const code = static_cast<unsigned char>(text.front());
+        bool const isLeftOut = turnsText(text);
+        if (!isLeftOut) {
+            result += code < 0x20 || code == 0x7F ? ' ' : text.front();
         }
+        text.remove_prefix(isLeftOut ? 3 : 1);
     }
-    return text;
+    return result;
 }
 
 } // namespace

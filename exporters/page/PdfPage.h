@@ -45,7 +45,7 @@ struct TextStyle {
 };
 
 /// A text within a width, wrapped at words, or within one that is too long. Line feeds and control characters count as
-/// blanks.
+/// blanks; characters that turn the direction of others are left out.
 class TextBlock
 {
 public:

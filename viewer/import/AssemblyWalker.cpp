@@ -65,11 +65,33 @@ orvsg::Transform transformOf(gp_Trsf const& placement)
     return transform;
 }
 
+/// Whether the components are but pieces of one product's shape: the reader makes a component of each representation,
+/// named by itself ("=>[0:1:1:2]" of "SOLID"), while each use of another product bears a name of the file. Several
+/// solids stay apart: they may be bodies that a reviewer wants to hide one by one.
+bool isOnePart(TDF_Label const& assembly)
+{
+    TDF_LabelSequence components;
+    XCAFDoc_ShapeTool::GetComponents(assembly, components);
+    int solids = 0;
+    for (auto const& component : components) {
+        TDF_Label piece;
+        if (!XCAFDoc_ShapeTool::GetReferredShape(component, piece) || XCAFDoc_ShapeTool::IsAssembly(piece) ||
+            !nameOf(component).starts_with(L"=>[")) {
+            return false;
+        }
+        TopTools_IndexedMapOfShape found;
+        TopExp::MapShapes(XCAFDoc_ShapeTool::GetShape(piece), TopAbs_SOLID, found);
+        solids += found.Extent();
+    }
+    return solids == 1;
+}
+
 class Walker
 {
 public:
-    Walker(Handle(TDocStd_Document) const& document, int partCount, Message_ProgressRange const& range)
-        : colors(XCAFDoc_DocumentTool::ColorTool(document->Main())), scope(range, "Tessellating", partCount)
+    Walker(Handle(TDocStd_Document) const& document, bool ofStep, int partCount, Message_ProgressRange const& range)
+        : colors(XCAFDoc_DocumentTool::ColorTool(document->Main())), isStep(ofStep),
+          scope(range, "Tessellating", partCount)
     {
     }
 
@@ -90,7 +112,7 @@ public:
         int const number = addNode(std::move(name), parent, transformOf(placement));
         setAppearance(number, label, product);
 
-        if (XCAFDoc_ShapeTool::IsAssembly(product)) {
+        if (XCAFDoc_ShapeTool::IsAssembly(product) && !(isStep && isOnePart(product))) {
             TDF_LabelSequence components;
             XCAFDoc_ShapeTool::GetComponents(product, components);
             for (auto const& component : components) {
@@ -208,6 +230,7 @@ private:
     }
 
     Handle(XCAFDoc_ColorTool) colors;
+    bool isStep;
     Message_ProgressScope scope;
     SceneRecords records;
     std::vector<orvsg::Node> nodes;
@@ -228,13 +251,13 @@ int countParts(Handle(XCAFDoc_ShapeTool) const& shapes)
 
 } // namespace
 
-SceneRecords walkAssembly(Handle(TDocStd_Document) const& document, std::wstring const& rootName,
+SceneRecords walkAssembly(Handle(TDocStd_Document) const& document, std::wstring const& rootName, bool ofStep,
                           Message_ProgressRange const& progress)
 {
     auto const shapes = XCAFDoc_DocumentTool::ShapeTool(document->Main());
     TDF_LabelSequence tops;
     shapes->GetFreeShapes(tops);
-    Walker walker(document, countParts(shapes), progress);
+    Walker walker(document, ofStep, countParts(shapes), progress);
     int const root = tops.Length() == 1 ? -1 : walker.addNode(rootName, -1, {});
     for (auto const& top : tops) {
         walker.addOccurrence(top, root);

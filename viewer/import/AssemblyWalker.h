@@ -24,7 +24,8 @@ struct SceneRecords {
 
 /// Turns the assembly tree into nodes, one an occurrence, in depth-first order. Repeated parts share a mesh. Where the
 /// file has several models at its top, a root named `rootName` holds them. Stops early when the progress asks to.
-SceneRecords walkAssembly(Handle(TDocStd_Document) const& document, std::wstring const& rootName,
+/// `ofStep`: a product that a STEP file describes by a solid and by surfaces or curves beside it is one part.
+SceneRecords walkAssembly(Handle(TDocStd_Document) const& document, std::wstring const& rootName, bool ofStep,
                           Message_ProgressRange const& progress);
 
 } // namespace orvviewer

@@ -105,7 +105,8 @@ ImportResult readModel(std::wstring const& path, FileKind kind, ImportProgress& 
     if (!isRead) {
         return failed(name, damaged);
     }
-    auto records = walkAssembly(structured, orvtext::fromUtf8(file.stem().string()), whole.Next(50));
+    auto records =
+        walkAssembly(structured, orvtext::fromUtf8(file.stem().string()), kind == FileKind::step, whole.Next(50));
     if (progress.stopRequested) {
         return {nullptr, L"Opening \"" + name + L"\" was stopped.", true};
     }

@@ -177,7 +177,8 @@ TEST_F(UnusualBill, OfNamesInManyScripts)
     for (char const* const name : {"上部ハウジング", "齿轮箱", "기어", "Ζάντα", "Шестерня", "Écrou \"M8\""}) {
         EXPECT_THAT(text, HasSubstr(name));
     }
-    EXPECT_THAT(text, HasSubstr("עליון"));
+    EXPECT_THAT(withoutBlanks(text), HasSubstr("עליון"));
+    EXPECT_THAT(text, HasSubstr("agnp.exe")) << "nothing turns a name around so that it reads as another";
     EXPECT_THAT(outputOf("qpdf --check '" + file.string() + "' 2>&1"),
                 HasSubstr("No syntax or stream encoding errors"));
 }
