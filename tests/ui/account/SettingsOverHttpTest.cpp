@@ -2,6 +2,8 @@
 // every way in which the service can fail.
 
 #include "ui/account/AccountTest.h"
+#include "ui/account/OptionsPage.h"
+#include "ui/account/OptionsPage.h"
 #include "ui/account/SettingsDlg.h"
 
 #include <chrono>
@@ -14,8 +16,8 @@ using namespace std::string_literals;
 namespace
 {
 
-constexpr int state = 1029;
-constexpr int button = 1022;
+constexpr int state = stateOfSession;
+constexpr int button = loginOrLogout;
 
 class SettingsOverHttp : public AccountTest
 {
@@ -26,13 +28,7 @@ protected:
     void openOptions(std::function<void(SettingsDlg&)> const& use)
     {
         SettingsDlg page(scene.document, nullptr, user, std::make_shared<CloudSettings>(), helper);
-        CMFCPropertySheet sheet(L"Options");
-        sheet.AddPage(&page);
-        modals.expectModal<CMFCPropertySheet>([&](CMFCPropertySheet&) -> INT_PTR {
-            use(page);
-            return IDCANCEL;
-        });
-        sheet.DoModal();
+        openOptionsWith(page, modals, [&] { use(page); });
     }
     static void press(CWnd& page) { EXPECT_TRUE(clickButton(page, button)); }
     void expectPage(CWnd& page, std::wstring const& words, int caption) const

@@ -1,6 +1,7 @@
 #include "support/OrdinaryUser.h"
 #include "ui/UiTest.h"
 #include "ui/account/CloudLoginDlg.h"
+#include "ui/account/OptionsPage.h"
 #include "ui/account/SettingsDlg.h"
 
 #include <afxcontrolbars.h>
@@ -16,8 +17,8 @@ namespace codes = orv::HintCode;
 namespace
 {
 
-constexpr int state = 1029;
-constexpr int button = 1022;
+constexpr int state = stateOfSession;
+constexpr int button = loginOrLogout;
 
 /// Counts what the sheet's machinery asks of the page.
 class WatchedPage final : public SettingsDlg
@@ -47,13 +48,7 @@ protected:
     void run(std::function<void(WatchedPage&)> const& use)
     {
         WatchedPage page(scene.document, nullptr, user, std::make_shared<CloudSettings>(), helper);
-        CMFCPropertySheet sheet(L"Options");
-        sheet.AddPage(&page);
-        modals.expectModal<CMFCPropertySheet>([&](CMFCPropertySheet&) -> INT_PTR {
-            use(page);
-            return IDCANCEL;
-        });
-        sheet.DoModal();
+        openOptionsWith(page, modals, [&] { use(page); });
     }
     static void press(CWnd& page) { EXPECT_TRUE(clickButton(page, button)); }
 };
