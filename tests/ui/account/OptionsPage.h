@@ -14,7 +14,7 @@ constexpr int stateOfSession = 1029;
 constexpr int loginOrLogout = 1022;
 
 /// Opens the options with the page, as the viewer does, and leaves them by Cancel after `use`.
-inline void openOptionsWith(CMFCPropertyPage& page, orvplatform::testing::ModalScript& modals,
+inline void openOptionsWith(CPropertyPage& page, orvplatform::testing::ModalScript& modals,
                             std::function<void()> const& use)
 {
     CMFCPropertySheet sheet(L"Options");

@@ -3,7 +3,6 @@
 
 #include "ui/account/AccountTest.h"
 #include "ui/account/OptionsPage.h"
-#include "ui/account/OptionsPage.h"
 #include "ui/account/SettingsDlg.h"
 
 #include <chrono>
