@@ -60,6 +60,9 @@ public:
     {
         texts.emplace_back(text);
         EXPECT_EQ(kind, 0); // every text of the plug-in is of the one kind
+        if (onStatus) {
+            onStatus();
+        }
     }
     std::shared_ptr<orv::IViewNotifier> getViewNotifier() override { return notifier; }
     orv::IStatusManager* getStatusManager() override { return &status; }
@@ -69,6 +72,7 @@ public:
     std::vector<std::wstring> texts;
     std::vector<std::wstring> saved;
     int saveStatus = 0;
+    std::function<void()> onStatus; ///< called when a text has been shown
     std::shared_ptr<FakeNotifier> notifier = std::make_shared<FakeNotifier>();
     FakeStatusManager status;
 };

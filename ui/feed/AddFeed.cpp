@@ -5,6 +5,11 @@
 #include "feed/ViewCapture.h"
 #include "host/orv/SCApplication.h"
 #include "host/orvexp/IDelayExporter.h"
+#include "host/orvgl/SCRenderer.h"
+#include "host/orvsg/SCInfo.h"
+#include "host/orvsg/SCSceneRT.h"
+#include "host/orvsg/SCSceneRes.h"
+#include "host/orvsg/SCSceneTopo.h"
 #include "service/CloudHelper.h"
 #include "service/Exporters.h"
 #include "service/FeedRequests.h"
@@ -18,6 +23,31 @@
 #include "ui/ResourceIds.h"
 
 #include <utility>
+
+namespace
+{
+
+/// What a comment needs of the model, asked for in this order before anything else. Held until the comment is sent, so
+/// that nothing of it goes while a request runs.
+struct CommentRecords {
+    explicit CommentRecords(std::shared_ptr<orv::IDocument> const& document)
+        : renderer(orv::recordOf<orvgl::SCRenderer>(document)), resources(orv::recordOf<orvsg::SCSceneRes>(document)),
+          topology(orv::recordOf<orvsg::SCSceneTopo>(document)),
+          application(orv::recordOf<orv::SCApplication>(document)), info(orv::recordOf<orvsg::SCInfo>(document)),
+          runtime(orv::recordOf<orvsg::SCSceneRT>(document))
+    {
+    }
+    std::wstring path() const { return info ? info->file() : std::wstring(); }
+
+    std::shared_ptr<orvgl::SCRenderer> renderer;
+    std::shared_ptr<orvsg::SCSceneRes> resources;
+    std::shared_ptr<orvsg::SCSceneTopo> topology;
+    std::shared_ptr<orv::SCApplication> application;
+    std::shared_ptr<orvsg::SCInfo> info;
+    std::shared_ptr<orvsg::SCSceneRT> runtime;
+};
+
+} // namespace
 
 BEGIN_MESSAGE_MAP(AddFeed, CDialogEx)
 ON_BN_CLICKED(resource::control::submitComment, &AddFeed::OnSubmit)
@@ -67,37 +97,38 @@ void AddFeed::OnSubmit()
     if (!document || !user) {
         return;
     }
-    auto const application = applicationOf(document);
-    if (!isConnected(application)) {
+    CommentRecords const records(document);
+    if (!isConnected(records.application)) {
         return;
     }
     std::wstring const text = textOf(edit);
     if (text.empty()) {
-        showStatus(application, pluginText(resource::text::commentEmpty));
+        showStatus(records.application, pluginText(resource::text::commentEmpty));
         return;
     }
-    std::wstring const fileName = modelName(modelPath(document).c_str());
+    std::wstring const path = records.path();
+    std::wstring const fileName = modelName(path.c_str());
     std::wstring jobId = isFilePresent(user->username, user->userid, fileName);
     if (!isJobId(jobId)) {
-        jobId = uploadModel(fileName); // not tested: the comment goes out whatever came back
+        // The answer isn't tested: the comment goes out whatever came back.
+        jobId = uploadModel(path, fileName, records.application ? records.application->application : nullptr);
     }
     Feed const comment = captureView(document, *user, text, jobId, imagePath);
     lastFeed = comment;
     addFeed(user->username, user->userid, fileName, comment.comment.id, FeedWriter().write(comment), jobId);
     raiseHint(document, orv::HintCode::commentAdded);
     edit.SetWindowTextW(L"");
-    showStatus(application, pluginText(resource::text::commentAdded));
+    showStatus(records.application, pluginText(resource::text::commentAdded));
 }
 
 /// Sends a PRC copy of the model under the model's own name. The copy stays in the temporary directory.
-std::wstring AddFeed::uploadModel(std::wstring const& fileName)
+std::wstring AddFeed::uploadModel(std::wstring const& modelPath, std::wstring const& fileName,
+                                  std::shared_ptr<orv::IApplication> const& application)
 {
     if (!delayExporter) {
         delayExporter = makeDeferredExporter(nullptr);
     }
-    std::wstring const path = prcFilePath(modelPath(document).c_str());
-    auto const way = applicationOf(document);
-    auto* const status = way && way->application ? way->application->getStatusManager() : nullptr;
-    delayExporter->save(path.c_str(), document, nullptr, status);
+    std::wstring const path = prcFilePath(modelPath.c_str());
+    delayExporter->save(path.c_str(), document, nullptr, application ? application->getStatusManager() : nullptr);
     return CloudHelper::uploadInput(fileName, path, user->username, user->userid, L"prc");
 }

@@ -9,6 +9,10 @@
 #include <memory>
 #include <string>
 
+namespace orv
+{
+class IApplication;
+}
 namespace orvexp
 {
 class IDelayExporter;
@@ -37,7 +41,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    std::wstring uploadModel(std::wstring const& fileName);
+    std::wstring uploadModel(std::wstring const& modelPath, std::wstring const& fileName,
+                             std::shared_ptr<orv::IApplication> const& application);
 
     CEdit edit;
     CButton submit;

@@ -9,7 +9,6 @@
 #include <atlimage.h>
 #include <objbase.h>
 
-#include <cstdint>
 #include <cstring>
 #include <utility>
 
@@ -18,8 +17,7 @@ namespace
 
 constexpr int columnWidth = 180; // of text and picture, pixels
 constexpr int lineHeight = 20;
-constexpr int aroundText = 35;                     // of a block's height what picture and text leave
-constexpr std::int64_t tallestWindow = 16'777'215; // pixels; the toolkit makes none that is taller
+constexpr int aroundText = 35; // of a block's height what picture and text leave
 
 /// Any format that the image class knows. False where the bytes hold no picture.
 bool loadImage(CImage& image, std::string const& bytes)
@@ -187,11 +185,8 @@ bool FeedBlock::loadThumbnail(int& height)
     if (!loadImage(image, decodeThumbnail(record))) {
         return false;
     }
-    std::int64_t const scaled = std::int64_t{image.GetHeight()} * columnWidth / image.GetWidth();
-    if (scaled > tallestWindow) {
-        return false;
-    }
-    height = static_cast<int>(scaled);
+    // The image class takes no side of more than 16,384 pixels, so neither the product nor a window gets too large.
+    height = image.GetHeight() * columnWidth / image.GetWidth();
     if (HBITMAP const previous = thumbnail.SetBitmap(image.Detach())) {
         DeleteObject(previous);
     }

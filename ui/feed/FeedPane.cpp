@@ -104,7 +104,9 @@ void FeedPane::OnUpdate(orv::IHint* hint)
         return;
     }
     // The list is rebuilt from the feed as it stands; what the hint makes of the feed shows with the hint that follows.
-    list.setFeed(feed, userInfo, helper);
+    if (!listHasFeed) {
+        handOver();
+    }
     list.OnUpdate(hint);
 
     short const code = hint->getCode();
@@ -118,7 +120,7 @@ void FeedPane::OnUpdate(orv::IHint* hint)
             LoadFeed();
             Invalidate();
         } else if (code == documentClosed || code == signedOut) {
-            emptyFeed();
+            takeFeed({});
             UpdateTitle(true);
         }
     }
@@ -134,10 +136,17 @@ void FeedPane::OnActivateChange(bool active)
     }
 }
 
-void FeedPane::emptyFeed()
+void FeedPane::takeFeed(std::vector<Feed> newFeed)
 {
-    feed.clear();
+    listHasFeed = false;
+    feed = std::move(newFeed);
+    handOver();
+}
+
+void FeedPane::handOver()
+{
     list.setFeed(feed, userInfo, helper);
+    listHasFeed = true;
 }
 
 void FeedPane::LoadFeed()
@@ -153,10 +162,9 @@ void FeedPane::LoadFeed()
     }
     std::wstring const jobId = isFilePresent(userInfo->username, userInfo->userid, modelName(path.c_str()));
     if (!isJobId(jobId)) {
-        emptyFeed();
+        takeFeed({});
     } else {
-        feed = FeedReader().read(getFeed(userInfo->username, userInfo->userid, path, jobId));
-        list.setFeed(feed, userInfo, helper);
+        takeFeed(FeedReader().read(getFeed(userInfo->username, userInfo->userid, path, jobId)));
     }
     UpdateTitle(true);
     raiseHint(document, orv::HintCode::feedReloaded);

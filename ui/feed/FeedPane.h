@@ -41,12 +41,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void emptyFeed();
+    void takeFeed(std::vector<Feed> newFeed);
+    void handOver();
 
     CTaskPane list;
     std::shared_ptr<orvweb::UserInfo> userInfo;
     std::vector<Feed> feed;
     std::shared_ptr<orv::IDocument> document;
     std::shared_ptr<CloudHelper> helper;
-    bool created = false; ///< the window stood; it deletes the pane when it goes
+    bool listHasFeed = false; ///< the list's copy is this feed; copying a long one for each hint would be felt
+    bool created = false;     ///< the window stood; it deletes the pane when it goes
 };

@@ -134,6 +134,10 @@ void CTaskPane::OnUpdate(orv::IHint* hint)
     login->SetContext(userInfo, helper);
     addFeed->setUser(userInfo);
 
+    using namespace orv::HintCode;
+    if (code == documentOpened) {
+        takeDocument(*hint, openedDocument);
+    }
     Rebuild const rebuild(*this);
     RemoveAllGroups();
     forward(hint);
@@ -145,7 +149,6 @@ void CTaskPane::OnUpdate(orv::IHint* hint)
         addGroup(L"", *login, loginHeight);
     }
 
-    using namespace orv::HintCode;
     if (code != documentOpened && code != feedReloaded && code != orv::HintCode::signedIn) {
         return;
     }
@@ -207,8 +210,8 @@ FeedBlock* CTaskPane::blockAt(std::size_t index)
     ResourceModule const module; // a feed can come in while the viewer's own module is set
     FeedBlock* const block = createBlock();
     if (block != nullptr) {
-        // The others had their document from the hint that opened it.
-        orvui::Hint opened(orv::HintCode::documentOpened, document);
+        // The others had their document from the hint that opened it; the list's may have come with a later one.
+        orvui::Hint opened(orv::HintCode::documentOpened, openedDocument);
         block->OnUpdate(&opened);
     }
     return block;

@@ -56,5 +56,6 @@ private:
     Feed spare; ///< never read; its place is given
     std::shared_ptr<orvweb::UserInfo> userInfo;
     std::shared_ptr<CloudHelper> helper;
-    std::unordered_set<CWnd const*> placed; ///< the children that stand in a group
+    std::shared_ptr<orv::IDocument> openedDocument; ///< what the blocks have, those to come as well
+    std::unordered_set<CWnd const*> placed;         ///< the children that stand in a group
 };

@@ -1,6 +1,8 @@
 #include "ui/feed/AddFeed.h"
 #include "feed/FeedReader.h"
+#include "feed/SceneRecords.h"
 #include "host/orv/FileUtils.h"
+#include "support/ListeningDocument.h"
 #include "ui/UiTest.h"
 
 #include <json/json.h>
@@ -68,11 +70,58 @@ TEST_F(AddFeedTest, ACommentOnAModelThatTheServiceHasIsSent)
 TEST_F(AddFeedTest, TheFeedHasReloadedBeforeTheUserReadsOfSuccess)
 {
     std::vector<std::wstring> textsAtTheHint{L"none"};
-    application->notifier->deliver = [&](orv::IHint*) { textsAtTheHint = application->texts; };
+    std::wstring boxAtTheHint;
+    std::wstring boxAtTheText = L"never shown";
+    application->notifier->deliver = [&](orv::IHint*) {
+        textsAtTheHint = application->texts;
+        boxAtTheHint = orvplatform::testing::textOf(*form, box);
+    };
+    application->onStatus = [&] { boxAtTheText = orvplatform::testing::textOf(*form, box); };
     network.expect("/api/isFilePresent/", jobIdBytes);
     network.expect("/api/CommentSync/", "ok");
     submit(L"hello");
     EXPECT_TRUE(textsAtTheHint.empty());
+    EXPECT_EQ(boxAtTheHint, L"hello") << "emptied behind the hint";
+    EXPECT_EQ(boxAtTheText, L"") << "and before the text shows";
+}
+
+TEST_F(AddFeedTest, TheModelsRecordsAreAskedForBeforeTheConnection)
+{
+    std::vector<short> const atFirst{orvgl::SCRenderer::key,  orvsg::SCSceneRes::key, orvsg::SCSceneTopo::key,
+                                     orv::SCApplication::key, orvsg::SCInfo::key,     orvsg::SCSceneRT::key};
+    auto const document = std::make_shared<ListeningDocument>(scene.document);
+    sendHint(*form, codes::documentOpened, document);
+    document->keys.clear();
+    orvplatform::setConnectedForTest(false);
+    submit(L"hello");
+    EXPECT_EQ(document->keys, atFirst);
+
+    document->keys.clear();
+    orvplatform::setConnectedForTest(true);
+    std::vector<short> keysAtTheFirstRequest;
+    network.expectHandled("/api/isFilePresent/", [&](SentRequest const&) {
+        keysAtTheFirstRequest = document->keys;
+        orvweb::HttpResponse response;
+        response.status = 200;
+        response.body = jobIdBytes;
+        return response;
+    });
+    network.expect("/api/CommentSync/", "ok");
+    EXPECT_TRUE(clickButton(*form, submitButton));
+    EXPECT_EQ(keysAtTheFirstRequest, atFirst);
+}
+
+TEST_F(AddFeedTest, EveryRequestCarriesTheUser)
+{
+    network.expect("/api/isFilePresent/", "");
+    network.expect("/api/UploadInput/", jobIdBytes);
+    network.expect("/api/CommentSync/", "ok");
+    submit(L"hello");
+    ASSERT_EQ(network.sent().size(), 3U);
+    for (auto const& request : network.sent()) {
+        EXPECT_EQ(request.field("username"), "ann@example.com") << request.path;
+        EXPECT_EQ(request.header("Authorization"), std::string("Bearer ") + tokenBytes) << request.path;
+    }
 }
 
 TEST_F(AddFeedTest, AJobIdOf35CharactersLeadsToTheUpload)
@@ -195,6 +244,7 @@ TEST_F(AddFeedTest, WithoutAConnectionTheTextStays)
     EXPECT_EQ(application->texts, std::vector<std::wstring>{text(111)});
     EXPECT_EQ(orvplatform::testing::textOf(*form, box), L"hello");
     EXPECT_TRUE(network.sent().empty());
+    EXPECT_FALSE(std::filesystem::exists(dataDirectory / "Cloud" / "image.jpeg"));
 }
 
 TEST_F(AddFeedTest, TheConnectionIsAskedBeforeTheText)
