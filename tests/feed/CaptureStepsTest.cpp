@@ -9,6 +9,7 @@
 #include "host/orvsgutils/MaterialUtils.h"
 #include "host/orvsgutils/ResourceLoader.h"
 #include "support/ListeningDocument.h"
+#include "support/NextFunction.h"
 #include "support/StringTable.h"
 
 #include <gmock/gmock.h>
@@ -22,9 +23,8 @@
 #include <utility>
 #include <vector>
 
-#include <dlfcn.h>
-
 using orvsgutils::MaterialUtils;
+using orvtest::nextFunction;
 using testing::ElementsAre;
 
 namespace
@@ -37,20 +37,6 @@ void note(std::string const& step)
     if (noteStep) {
         noteStep(step);
     }
-}
-
-/// The library's function of the same name as this program's.
-template <class Function>
-Function* next(Function* own)
-{
-    Dl_info info{};
-    if (dladdr(reinterpret_cast<void*>(own), &info) == 0 || info.dli_sname == nullptr) {
-        ADD_FAILURE() << "a function without a name";
-        return nullptr;
-    }
-    void* const found = dlsym(RTLD_NEXT, info.dli_sname);
-    EXPECT_NE(found, nullptr) << info.dli_sname;
-    return reinterpret_cast<Function*>(found);
 }
 
 } // namespace
@@ -68,7 +54,7 @@ extern "C" std::time_t time(std::time_t* result) noexcept
 
 std::wstring orvsgutils::ResourceLoader::getString(std::wstring const& library, int const& id)
 {
-    static auto* const whole = next(&ResourceLoader::getString);
+    static auto* const whole = nextFunction(&ResourceLoader::getString);
     EXPECT_EQ(library, L"cloudplugin.dll");
     note("text " + std::to_string(id));
     return whole(library, id);
@@ -77,7 +63,7 @@ std::wstring orvsgutils::ResourceLoader::getString(std::wstring const& library, 
 void orvgl::CameraHelper::getEyeTargetUp(std::shared_ptr<Camera> const& camera, Point& eye, Point& target, Point& right,
                                          Point& up, bool orthonormal)
 {
-    static auto* const whole = next(&CameraHelper::getEyeTargetUp);
+    static auto* const whole = nextFunction(&CameraHelper::getEyeTargetUp);
     EXPECT_FALSE(orthonormal);
     note("camera");
     whole(camera, eye, target, right, up, orthonormal);
@@ -85,7 +71,7 @@ void orvgl::CameraHelper::getEyeTargetUp(std::shared_ptr<Camera> const& camera, 
 
 unsigned long orvsgutils::MaterialUtils::getNodeColor(int node, Res& resources, Topo& topology)
 {
-    static auto* const whole = next(&MaterialUtils::getNodeColor);
+    static auto* const whole = nextFunction(&MaterialUtils::getNodeColor);
     note("colour of " + std::to_string(node));
     return whole(node, resources, topology);
 }
@@ -93,7 +79,7 @@ unsigned long orvsgutils::MaterialUtils::getNodeColor(int node, Res& resources, 
 void orvglutils::MarkupUtils::getMovedComponents(std::shared_ptr<orvsg::SCSceneRes> resources,
                                                  std::shared_ptr<orvsg::SCSceneTopo> topology, std::set<int>& moved)
 {
-    static auto* const whole = next(&MarkupUtils::getMovedComponents);
+    static auto* const whole = nextFunction(&MarkupUtils::getMovedComponents);
     note("moved nodes");
     whole(std::move(resources), std::move(topology), moved);
 }

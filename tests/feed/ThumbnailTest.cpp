@@ -64,6 +64,7 @@ TEST(Thumbnail, UndoesTheEscapeOfPlusSignsInLowerCaseAlone)
 TEST(Thumbnail, DropsLineBreaks)
 {
     EXPECT_EQ(decoded(L"Rm\r\n9v\nYm\rFy\n"), "Foobar");
+    EXPECT_EQ(decoded(L"Rm9v%2\nb%2\nb%2\nb%2\nb"), "Foo") << "after the escapes: one with a break in it is none";
 }
 
 TEST(Thumbnail, StopsAtAStrayCharacter)

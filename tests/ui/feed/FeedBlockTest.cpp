@@ -345,6 +345,7 @@ TEST_F(FeedBlockTest, DeletingAsksTheServiceAndReloads)
     EXPECT_EQ(network.last().field("commentid"), "c0ffee00-0000-4000-8000-000000000001");
     EXPECT_EQ(network.last().field("jobid"), jobIdBytes);
     EXPECT_EQ(network.last().field("username"), "ann@example.com");
+    EXPECT_EQ(network.last().header("Authorization"), std::string("Bearer ") + tokenBytes);
     EXPECT_EQ(application->notifier->codes, std::vector<short>{codes::commentDeleted});
     EXPECT_EQ(application->notifier->documents.at(0), scene.document.get());
     EXPECT_TRUE(application->texts.empty());

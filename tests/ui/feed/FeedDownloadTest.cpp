@@ -1,14 +1,40 @@
 #include "feed/SceneRecords.h"
 #include "host/orv/FileUtils.h"
+#include "host/orvsgutils/BOMUtils.h"
+#include "support/NextFunction.h"
 #include "ui/UiTest.h"
 #include "ui/feed/FeedBlock.h"
 #include "ui/feed/Records.h"
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 using namespace orvtest;
 using namespace orvplatform::testing;
 namespace codes = orv::HintCode;
+
+namespace
+{
+
+/// A bill of materials that the host was to make.
+struct MadeBill {
+    std::shared_ptr<orvsg::SCSceneTopo> topology;
+    std::shared_ptr<orvsg::SCBom> bom;
+    int level = -1;
+};
+std::vector<MadeBill> madeBills;
+
+} // namespace
+
+// This program's own stands before the host's, notes the call and hands it on.
+void orvsgutils::BOMUtils::createBOM(std::shared_ptr<orvsg::SCSceneTopo> topology, std::shared_ptr<orvsg::SCBom> bom,
+                                     int const& level)
+{
+    static auto* const whole = orvtest::nextFunction(&BOMUtils::createBOM);
+    madeBills.push_back({topology, bom, level});
+    whole(std::move(topology), std::move(bom), level);
+}
 
 namespace
 {
@@ -18,6 +44,7 @@ class FeedDownloadTest : public UiTest
 protected:
     FeedDownloadTest()
     {
+        madeBills.clear();
         signIn();
         block = new FeedBlock;
         EXPECT_TRUE(block->Create(FeedBlock::templateId(), &frame));
@@ -39,7 +66,10 @@ protected:
     {
         modals.expectModal<CFileDialog>([this, path](CFileDialog& dialog) -> INT_PTR {
             EXPECT_FALSE(dialog.m_bOpenFileDialog);
-            EXPECT_EQ(dialog.m_ofn.Flags & 6U, 6U);
+            EXPECT_EQ(dialog.m_ofn.Flags, 6U);
+            EXPECT_EQ(dialog.m_ofn.hwndOwner, nullptr);
+            levelAtTheDialog = scene.bom->reportLevel;
+            billsAtTheDialog = madeBills.size();
             proposedName = dialog.GetFileName().GetString();
             extension = dialog.m_ofn.lpstrDefExt == nullptr ? L"" : dialog.m_ofn.lpstrDefExt;
             filter = dialog.m_ofn.lpstrFilter == nullptr ? L"" : dialog.m_ofn.lpstrFilter;
@@ -56,6 +86,8 @@ protected:
     std::wstring proposedName;
     std::wstring extension;
     std::wstring filter; // the description alone
+    int levelAtTheDialog = -1;
+    std::size_t billsAtTheDialog = 0;
 };
 
 } // namespace
@@ -113,15 +145,28 @@ TEST_F(FeedDownloadTest, TheOutcomeMayComeAfterTheBlockIsGone)
 TEST_F(FeedDownloadTest, TheReportLevelIsSetBeforeTheDialogOpens)
 {
     scene.bom->reportLevel = 7;
-    offer(L"stl");
-    clickAndSave({});
-    EXPECT_EQ(scene.bom->reportLevel, 7);
-    offer(L"csv");
-    clickAndSave({});
-    EXPECT_EQ(scene.bom->reportLevel, 1);
-    offer(L"bompdf");
-    clickAndSave({});
-    EXPECT_EQ(scene.bom->reportLevel, 0);
+    for (auto const& [kind, level] : {std::pair{L"stl", 7}, {L"csv", 1}, {L"bompdf", 0}}) {
+        offer(kind);
+        clickAndSave({});
+        EXPECT_EQ(levelAtTheDialog, level) << level;
+        EXPECT_EQ(scene.bom->reportLevel, level) << "also where the user cancels";
+    }
+    EXPECT_TRUE(madeBills.empty()) << "the document has one";
+}
+
+TEST_F(FeedDownloadTest, TheHostIsToMakeAMissingBillOfMaterialsBeforeAnyKindOfDownload)
+{
+    scene.document->setSchema(orvsg::SCBom::BOM, nullptr);
+    for (wchar_t const* const kind : {L"stl", L"csv", L"bompdf", L"3ds", L"unknown"}) {
+        madeBills.clear();
+        offer(kind);
+        clickAndSave({});
+        ASSERT_EQ(madeBills.size(), 1U);
+        EXPECT_EQ(billsAtTheDialog, 1U) << "before the dialog opens";
+        EXPECT_EQ(madeBills[0].topology, scene.topology);
+        EXPECT_EQ(madeBills[0].bom, nullptr);
+        EXPECT_EQ(madeBills[0].level, 0);
+    }
 }
 
 TEST_F(FeedDownloadTest, ADocumentWithoutABillOfMaterialsStillOffersEveryOutput)

@@ -1,8 +1,8 @@
 // What the pane makes of a feed that no client of ours would write.
 
+#include "support/PictureFiles.h"
 #include "ui/feed/FeedPaneFixture.h"
 
-#include <QBuffer>
 #include <QImage>
 
 #include <map>
@@ -20,22 +20,36 @@ constexpr int date = 2004;
 constexpr std::size_t firstBlock = 2; // after the tools and the comment box
 constexpr int oneLine = 55;           // a block's height with a line of text and no picture
 
-std::string encoded(char const* format)
+std::string encodedAs(char const* format)
 {
     QImage image(36, 18, QImage::Format_RGB32);
     image.fill(Qt::darkGreen);
     image.setPixelColor(7, 7, Qt::red);
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    EXPECT_TRUE(image.save(&buffer, format));
-    return buffer.data().toStdString();
+    return encoded(image, format);
 }
 
 /// A PNG whose container is whole and whose pixels are none.
 std::string unreadablePng()
 {
-    std::string bytes = encoded("PNG");
+    std::string bytes = encodedAs("PNG");
     return bytes.replace(bytes.find("IDAT") + 4, 8, 8, '\xff');
+}
+
+std::string tooLargePng()
+{
+    std::string bytes = encodedAs("PNG");
+    for (std::size_t const at : {std::size_t{16}, std::size_t{20}}) {
+        bytes.replace(at, 4, std::string("\x00\x00\x75\x30", 4)); // 30,000 pixels
+    }
+    return bytes;
+}
+
+constexpr char svgFile[] =
+    "<svg xmlns='http://www.w3.org/2000/svg' width='36' height='18'><rect width='9' height='9'/></svg>";
+
+std::string zipFile()
+{
+    return std::string("PK\x03\x04\x14\x00\x00\x00", 8) + std::string(200, 'x');
 }
 
 Feed withPicture(std::string const& bytes)
@@ -68,17 +82,13 @@ protected:
 
 TEST_F(FeedPaneBadInputTest, WhatIsNoWholePictureIsNoThumbnail)
 {
-    std::string tooLarge = encoded("PNG");
-    for (std::size_t const at : {std::size_t{16}, std::size_t{20}}) {
-        tooLarge.replace(at, 4, std::string("\x00\x00\x75\x30", 4)); // 30,000 pixels
-    }
     std::map<std::string, std::string> const cases = {
-        {"cut JPEG", encoded("JPEG").substr(0, encoded("JPEG").size() - 20)},
-        {"cut PNG", encoded("PNG").substr(0, encoded("PNG").size() - 20)},
+        {"cut JPEG", encodedAs("JPEG").substr(0, encodedAs("JPEG").size() - 20)},
+        {"cut PNG", encodedAs("PNG").substr(0, encodedAs("PNG").size() - 20)},
         {"cut BMP", pictureBytes(36, 18).substr(0, 1000)},
-        {"30,000 by 30,000", tooLarge},
-        {"SVG", "<svg xmlns='http://www.w3.org/2000/svg' width='36' height='18'><rect width='9' height='9'/></svg>"},
-        {"zip", std::string("PK\x03\x04\x14\x00\x00\x00", 8) + std::string(200, 'x')},
+        {"30,000 by 30,000", tooLargePng()},
+        {"SVG", svgFile},
+        {"zip", zipFile()},
         {"text", "no picture at all, but long enough"}};
     for (auto const& [what, bytes] : cases) {
         loadRecords({withPicture(bytes), comment(L"next")});
@@ -94,12 +104,8 @@ TEST_F(FeedPaneBadInputTest, WhatIsNoWholePictureIsNoThumbnail)
 
 TEST_F(FeedPaneBadInputTest, TheFormatsOfTheImageClassAreShown)
 {
-    // 2 by 2 pixels
-    std::string const gif("GIF89a\x02\x00\x02\x00\x80\x00\x00\x00\x00\x00\xFF\xFF\xFF"
-                          "\x2C\x00\x00\x00\x00\x02\x00\x02\x00\x00\x02\x03\x44\x34\x05\x00\x3B",
-                          36);
-    loadRecords(
-        {withPicture(encoded("JPEG")), withPicture(encoded("PNG")), withPicture(encoded("BMP")), withPicture(gif)});
+    loadRecords({withPicture(encodedAs("JPEG")), withPicture(encodedAs("PNG")), withPicture(encodedAs("BMP")),
+                 withPicture(gifFile(QSize(2, 2)))});
     processEvents();
     for (std::size_t const i : {0U, 1U, 2U}) {
         EXPECT_EQ(heightOf(i), 90 + oneLine);
@@ -120,7 +126,7 @@ TEST_F(FeedPaneBadInputTest, APictureWhosePixelsCannotBeReadMakesRoomWhenItComes
     EXPECT_EQ(placeOf(block(0), content), CRect(15, 20, 195, 60));
     EXPECT_EQ(placeOfBlock(1).top, before.top - 90); // the next one closes the gap
     // The block is used again: a good picture shows.
-    loadRecords({withPicture(encoded("PNG"))});
+    loadRecords({withPicture(encodedAs("PNG"))});
     processEvents();
     EXPECT_EQ(heightOf(0), 90 + oneLine);
     EXPECT_TRUE(isVisible(block(0), picture));
@@ -129,7 +135,7 @@ TEST_F(FeedPaneBadInputTest, APictureWhosePixelsCannotBeReadMakesRoomWhenItComes
 
 TEST_F(FeedPaneBadInputTest, AReportThatComesLateLeavesTheNextPictureAlone)
 {
-    loadRecords({withPicture(encoded("PNG"))});
+    loadRecords({withPicture(encodedAs("PNG"))});
     UINT const message = RegisterWindowMessageW(L"OrvPictureUnreadable");
     block(0).SendMessage(message, picture, 12345); // of a bitmap that is gone
     auto* const control = static_cast<CStatic*>(block(0).GetDlgItem(picture));
@@ -198,4 +204,41 @@ TEST_F(FeedPaneBadInputTest, ATitleOfAnyLengthStaysInItsCard)
     EXPECT_EQ(titles().at(firstBlock).size(), 10'000U);
     EXPECT_EQ(placeOfBlock(0).Width(), placeOfBlock(1).Width());
     EXPECT_EQ(heightOf(0), oneLine);
+}
+
+TEST_F(FeedPaneBadInputTest, AGoodRecordBehindManyBadOnesIsRight)
+{
+    std::wstring const huge(std::size_t{1} << 20, L'x');
+    Feed good = withPicture(encodedAs("PNG"));
+    good.comment.content = L"good";
+    std::vector<Feed> const feeds = {withPicture(unreadablePng()), // in sight, so that it is found out
+                                     withPicture(encodedAs("JPEG").substr(0, encodedAs("JPEG").size() - 20)),
+                                     withPicture(zipFile()),
+                                     withPicture(svgFile),
+                                     withPicture(tooLargePng()),
+                                     comment(huge),
+                                     comment(L"شكراً، راجع الغلاف من فضلك"),
+                                     comment(L"a\x01\x02\x07\x1b[31mred\x7f"),
+                                     comment(L"hello", L"", L""),
+                                     good};
+    loadRecords(feeds);
+    processEvents();
+    ASSERT_EQ(visibleBlocks(), static_cast<int>(feeds.size()));
+    EXPECT_EQ(tabTitle(), L"Feeds - 10");
+    int top = placeOfBlock(0).top;
+    for (std::size_t i = 0; i < feeds.size(); ++i) {
+        EXPECT_EQ(textOf(block(i), content), feeds[i].comment.content) << i;
+        EXPECT_EQ(isVisible(block(i), picture), i + 1 == feeds.size()) << i;
+        EXPECT_EQ(titles().at(firstBlock + i), feeds[i].author.name) << i;
+        EXPECT_GE(placeOfBlock(i).top, top) << i;
+        top = placeOfBlock(i).bottom;
+    }
+    std::size_t const last = feeds.size() - 1;
+    EXPECT_EQ(heightOf(last), 90 + oneLine);
+    EXPECT_EQ(placeOf(block(last), picture), CRect(15, 15, 195, 105));
+    EXPECT_EQ(placeOf(block(last), content), CRect(15, 110, 195, 150));
+    EXPECT_EQ(textOf(block(last), date), L"Nov 15, 2026 16:11 PM");
+    EXPECT_TRUE(isVisible(block(last), 1037));
+    EXPECT_TRUE(clickAt(block(last), 3, 3));
+    EXPECT_EQ(application->notifier->codes.back(), codes::viewRestored);
 }

@@ -150,6 +150,64 @@ TEST_F(FeedPaneTest, AClosedDocumentLeavesTheBlocksUntilTheNextRebuild)
     EXPECT_EQ(visibleBlocks(), 0);
 }
 
+TEST_F(FeedPaneTest, TheBlocksOfAReloadedFeedShowAlsoWhenNobodyIsSignedIn)
+{
+    signIn();
+    openPaneWithModel();
+    loadFeed({"Ann", "Bob"});
+    user->username.clear();
+    user->userid.clear();
+    sendHint(*pane, codes::feedReloaded, scene.document);
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"", L"Ann", L"Bob"}));
+    EXPECT_EQ(visibleBlocks(), 2);
+}
+
+TEST_F(FeedPaneTest, TheBlocksOfAReloadedFeedShowAlsoWithoutAModel)
+{
+    signIn();
+    openPaneWithModel();
+    loadFeed({"Ann", "Bob"});
+    scene.info->setFile(L"");
+    sendHint(*pane, codes::feedReloaded, scene.document);
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"Ann", L"Bob"}));
+    EXPECT_EQ(visibleBlocks(), 2);
+}
+
+TEST_F(FeedPaneTest, AUserIdAloneIsASignedInUserExceptForTheActivation)
+{
+    user->userid = token;
+    openPaneWithModel();
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"Add Comment"}));
+    EXPECT_TRUE(orvplatform::testing::isEnabled(childOf(0), 271));
+    pane->OnActivateChange(true);
+    EXPECT_TRUE(network.sent().empty());
+}
+
+TEST_F(FeedPaneTest, AUserNameAloneIsNobodyExceptForTheActivation)
+{
+    user->username = L"ann@example.com";
+    openPaneWithModel();
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L""}));
+    EXPECT_FALSE(orvplatform::testing::isEnabled(childOf(0), 271));
+    loadFeed({"Ann"});
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"", L"Ann"}));
+}
+
+TEST_F(FeedPaneTest, ACommentWhoseDeletionFailsStillStandsAfterTheReload)
+{
+    signIn();
+    user->username = L"x@example.com"; // the author of what loadFeed gives
+    openPaneWithModel();
+    loadFeed({"Ann", "Bob"});
+    network.expectFailure("/api/DeleteComment/", orv::ErrorCode::refused, 403);
+    expectFeed({"Ann", "Bob"});
+    EXPECT_TRUE(orvplatform::testing::clickButton(childOf(2), 1037));
+    EXPECT_EQ(titles(), (Titles{L"Feed Tools", L"Add Comment", L"Ann", L"Bob"}));
+    EXPECT_EQ(visibleBlocks(), 2);
+    EXPECT_EQ(tabTitle(), L"Feeds - 2");
+    EXPECT_TRUE(application->texts.empty());
+}
+
 TEST_F(FeedPaneTest, ALoginRebuildsTwice)
 {
     openPaneWithModel();

@@ -135,6 +135,20 @@ TEST_F(FeedPaneTest, ACommentAddedOrDeletedReloadsTheFeed)
     }
 }
 
+TEST_F(FeedPaneTest, ACommentAddedOrDeletedReloadsTheFeedAlsoWhenNobodyIsSignedIn)
+{
+    openPaneWithModel();
+    for (short const code : {codes::commentAdded, codes::commentDeleted}) {
+        network.expect("/api/isFilePresent/", "");
+        tab.SetWindowTextW(L"Feeds");
+        sendHint(*pane, code, scene.document);
+        EXPECT_EQ(network.last().field("filename"), "gearbox.step") << code;
+        EXPECT_EQ(network.last().field("username"), "") << code;
+        EXPECT_EQ(tabTitle(), L"Feeds - 0") << code;
+    }
+    EXPECT_EQ(network.sent().size(), 2U);
+}
+
 TEST_F(FeedPaneTest, ChangesOfTheDocumentReloadNothing)
 {
     signIn();

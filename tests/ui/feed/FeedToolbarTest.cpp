@@ -133,6 +133,20 @@ TEST_F(FeedToolbarTest, ThePushTakesTheDocumentOfWhicheverHintCameLast)
     EXPECT_EQ(network.last().field("filename"), "other.stp");
 }
 
+TEST_F(FeedToolbarTest, AHintWithoutADocumentLeavesTheOneBefore)
+{
+    sendHint(*toolbar, codes::documentOpened, scene.document);
+    sendHint(*toolbar, codes::documentClosed, nullptr);
+    signIn();
+    sendHint(*toolbar, codes::signedIn, nullptr);
+    EXPECT_TRUE(enabled()) << "the model is still open";
+    network.expect("/api/UploadInput/", jobIdBytes);
+    EXPECT_TRUE(clickButton(*toolbar, push));
+    EXPECT_EQ(network.last().field("filename"), "gearbox.step");
+    sendHint(*toolbar, codes::signedOut, nullptr);
+    EXPECT_FALSE(enabled());
+}
+
 TEST_F(FeedToolbarTest, AFailingPushIsToldByThePushAlone)
 {
     signIn();
