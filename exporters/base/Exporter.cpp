@@ -37,8 +37,14 @@ orvexp::Status Exporter::save(wchar_t const* path, std::shared_ptr<orv::IDocumen
         }
         auto const target = orvhost::nativePath(path);
         OutputFile file(target);
-        write({document, preferences.get(), target, orvhost::extensionOf(path), file, progress});
-        file.putInPlace();
+        std::vector<std::unique_ptr<OutputFile>> companions;
+        write({document, preferences.get(), target, orvhost::extensionOf(path), file, companions, progress});
+        std::vector<OutputFile*> files;
+        for (auto const& companion : companions) {
+            files.push_back(companion.get());
+        }
+        files.push_back(&file); // last: whoever opens it finds what it names
+        OutputFile::putInPlace(files);
         progress.set(1);
         return orvexp::Status::ok;
     } catch (...) {

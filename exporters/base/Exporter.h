@@ -19,6 +19,8 @@ struct Job {
     std::filesystem::path path;          ///< of the wanted file; what is written goes through `file`
     std::wstring extension;              ///< of that path: one of the exporter's own, or another that it was given
     OutputFile& file;
+    /// What the format writes beside the wanted file; put in place with it, all or none.
+    std::vector<std::unique_ptr<OutputFile>>& companions;
     Progress& progress;
 };
 

@@ -63,7 +63,7 @@ void MeshExporter::write(orvexport::Job const& job)
     if (result != aiReturn_SUCCESS) {
         throw orvexport::OutputError(exporter.GetErrorString());
     }
-    output->putOthersInPlace();
+    output->moveOthers(job.companions);
 }
 
 } // namespace meshwriters

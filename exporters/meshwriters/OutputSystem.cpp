@@ -2,6 +2,8 @@
 
 #include <assimp/IOStream.hpp>
 
+#include <utility>
+
 namespace meshwriters
 {
 
@@ -89,11 +91,12 @@ void OutputSystem::check() const
     }
 }
 
-void OutputSystem::putOthersInPlace()
+void OutputSystem::moveOthers(std::vector<std::unique_ptr<orvexport::OutputFile>>& files)
 {
     for (auto& [path, file] : others) {
-        file->putInPlace();
+        files.push_back(std::move(file));
     }
+    others.clear();
 }
 
 } // namespace meshwriters

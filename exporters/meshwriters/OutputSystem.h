@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace meshwriters
 {
@@ -28,8 +29,8 @@ public:
 
     /// Throws the first failure, where there was one.
     void check() const;
-    /// Puts the files beside the wanted one in place; that one is left to its owner.
-    void putOthersInPlace();
+    /// Hands over the files beside the wanted one, which has its owner already.
+    void moveOthers(std::vector<std::unique_ptr<orvexport::OutputFile>>& files);
 
 private:
     std::filesystem::path main;

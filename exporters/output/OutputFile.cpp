@@ -65,6 +65,12 @@ std::filesystem::path behindLinks(std::filesystem::path path)
     return path;
 }
 
+/// A name in the same folder that no other save takes.
+std::filesystem::path besides(std::filesystem::path const& target, char const* beginning)
+{
+    return target.parent_path() / (beginning + std::to_string(std::random_device()()));
+}
+
 } // namespace
 
 OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks(wanted))
@@ -89,9 +95,8 @@ OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks
     if (replaces && access(target.c_str(), W_OK) != 0) {
         fail(errno, errno == EACCES ? orvexp::Status::isProtected : statusOf(errno));
     }
-    std::random_device source;
     do {
-        name = target.parent_path() / (".saving-" + std::to_string(source()));
+        name = besides(target, ".saving-");
         descriptor = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     } while (descriptor < 0 && errno == EEXIST);
     if (descriptor < 0) {
@@ -143,7 +148,28 @@ void OutputFile::seek(std::uint64_t position)
     at = position;
 }
 
-void OutputFile::putInPlace()
+void OutputFile::putInPlace(std::vector<OutputFile*> const& files)
+{
+    for (auto* const file : files) {
+        file->finish();
+    }
+    std::size_t done = 0;
+    try {
+        for (; done < files.size(); ++done) {
+            files[done]->replace(done + 1 < files.size());
+        }
+    } catch (OutputError const&) {
+        while (done > 0) {
+            files[--done]->giveWay();
+        }
+        throw;
+    }
+    for (auto* const file : files) {
+        file->dropEarlier();
+    }
+}
+
+void OutputFile::finish()
 {
     // Some file systems only find out here, or on closing, that there was no room; some have nothing to wait for.
     if (fsync(descriptor) != 0 && errno != EINVAL && errno != ENOTSUP) {
@@ -151,10 +177,41 @@ void OutputFile::putInPlace()
     }
     int const closed = close(descriptor);
     descriptor = -1;
-    if (closed != 0 || std::rename(name.c_str(), target.c_str()) != 0) {
+    if (closed != 0) {
         fail(errno);
     }
+}
+
+void OutputFile::replace(bool withWayBack)
+{
+    // Without an earlier file there is nothing to come back to; some file systems know no second names.
+    if (auto const second = besides(target, ".replaced-"); withWayBack && link(target.c_str(), second.c_str()) == 0) {
+        earlier = second;
+    }
+    if (std::rename(name.c_str(), target.c_str()) != 0) {
+        int const error = errno;
+        dropEarlier();
+        fail(error);
+    }
     kept = true;
+}
+
+void OutputFile::dropEarlier()
+{
+    if (!earlier.empty()) {
+        unlink(earlier.c_str());
+        earlier.clear();
+    }
+}
+
+void OutputFile::giveWay()
+{
+    if (earlier.empty()) {
+        unlink(target.c_str());
+    } else {
+        [[maybe_unused]] int const ignored = std::rename(earlier.c_str(), target.c_str());
+        earlier.clear();
+    }
 }
 
 } // namespace orvexport

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace orvexport
 {
@@ -46,11 +47,20 @@ public:
 
     /// The file stands under its own name from here on, and its content on the disk: after a power failure there is
     /// the old file or the new one, whole.
-    void putInPlace();
+    void putInPlace() { putInPlace({this}); }
+    /// The same for files that belong together, in that order: where one can't be put in place, those before it give
+    /// way again to what they replaced.
+    static void putInPlace(std::vector<OutputFile*> const& files);
 
 private:
+    void finish(); ///< content on the disk, under the temporary name
+    void replace(bool withWayBack);
+    void dropEarlier();
+    void giveWay();
+
     std::filesystem::path target;
     std::filesystem::path name;
+    std::filesystem::path earlier; ///< second name of the file that was replaced; empty without a way back
     int descriptor = -1;
     std::uint64_t at = 0;
     std::uint64_t end = 0;

@@ -166,4 +166,40 @@ TEST_F(OutputFileTest, WhatStandsInTheWayIsFoundBeforeTheWork)
     EXPECT_EQ(contentOf(path), "old");
 }
 
+TEST_F(OutputFileTest, FilesThatBelongTogetherStandTogetherOrNotAtAll)
+{
+    auto const first = folder.path / "model.mtl";
+    auto const second = folder.path / "model.obj";
+    auto const save = [&](char const* content) {
+        OutputFile materials(first);
+        OutputFile model(second);
+        materials.write(content);
+        model.write(content);
+        OutputFile::putInPlace({&materials, &model});
+    };
+    auto const saveWhereTheSecondFails = [&](char const* content) {
+        OutputFile materials(first);
+        OutputFile model(second);
+        materials.write(content);
+        model.write(content);
+        // Somebody makes a folder of that name meanwhile.
+        std::filesystem::remove(second);
+        std::filesystem::create_directory(second);
+        EXPECT_THROW(OutputFile::putInPlace({&materials, &model}), OutputError);
+        std::filesystem::remove(second);
+    };
+    saveWhereTheSecondFails("never seen");
+    EXPECT_EQ(files(), 0U) << "there was none before";
+    save("old");
+    EXPECT_EQ(contentOf(first), "old");
+    EXPECT_EQ(files(), 2U);
+    saveWhereTheSecondFails("new");
+    EXPECT_EQ(contentOf(first), "old") << "the materials of a model that was never replaced";
+    EXPECT_EQ(files(), 1U);
+    save("newer");
+    EXPECT_EQ(contentOf(first), "newer");
+    EXPECT_EQ(contentOf(second), "newer");
+    EXPECT_EQ(files(), 2U) << "nothing is left beside them";
+}
+
 } // namespace
