@@ -4,6 +4,7 @@
 #include "tests/exporters/FullDisk.h"
 #include "tests/service/MultipartForm.h"
 #include "tests/service/PushFixture.h"
+#include "tests/support/OwnMounts.h"
 
 #include "host/orvsg/SCSceneRes.h"
 #include "host/runtime/Files.h"
@@ -16,7 +17,6 @@
 #include <memory>
 #include <random>
 
-#include <sched.h>
 #include <sys/mount.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -29,28 +29,6 @@ namespace
 
 std::string const job = "7c9e6679-7425-40de-944b-e07fc1f90ae7";
 bool mayMount = false;
-
-void write(char const* file, std::string const& text)
-{
-    std::ofstream(file) << text;
-}
-
-/// Gives this process mounts of its own, which end with it. Who isn't root becomes root of a name space first. Works
-/// before there is a second thread.
-bool takeOwnMounts()
-{
-    uid_t const user = getuid();
-    gid_t const group = getgid();
-    if (::unshare(CLONE_NEWNS) != 0) {
-        if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
-            return false;
-        }
-        write("/proc/self/setgroups", "deny");
-        write("/proc/self/uid_map", "0 " + std::to_string(user) + " 1");
-        write("/proc/self/gid_map", "0 " + std::to_string(group) + " 1");
-    }
-    return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
 
 enum class Disk { mounted, limited };
 

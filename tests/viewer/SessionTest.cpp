@@ -1,7 +1,9 @@
+#include "tests/viewer/SaveOutcomes.h"
 #include "tests/viewer/SessionFixture.h"
 
 #include "host/orv/IHint.h"
 #include "host/orv/SCApplication.h"
+#include "host/orvexp/Status.h"
 #include "host/orvgl/ImageRenderer.h"
 #include "host/orvgl/SCRenderer.h"
 #include "host/orvsg/SCSceneRT.h"
@@ -272,12 +274,13 @@ TEST_F(SessionTest, RemembersWhatWasOpened)
 TEST_F(SessionTest, SavingWithoutAnExporterIsASentenceAndAStatus)
 {
     open();
-    int outcome = 0;
     auto const path = (folder.path / "out.stl").wstring();
-    session->application()->saveFile(path.c_str(),
-                                     [&](int const* status, wchar_t const*, orv::IApplication*) { outcome = *status; });
-    EXPECT_NE(outcome, 0);
-    EXPECT_NE(status().find("out.stl"), std::string::npos);
+    SaveOutcomes outcomes;
+    session->application()->saveFile(path.c_str(), outcomes.completion());
+    ASSERT_EQ(outcomes.told.size(), 1U);
+    EXPECT_EQ(outcomes.told[0],
+              (SaveOutcome{static_cast<int>(orvexp::Status::noLibrary), path, session->application()}));
+    EXPECT_EQ(status(), "\"out.stl\" can't be saved: its exporter isn't installed. Choose another format.");
     EXPECT_FALSE(session->exportModel((folder.path / "out.prc").wstring()));
     EXPECT_NE(status().find("prcdelaywriter"), std::string::npos);
 }
@@ -291,10 +294,12 @@ TEST_F(SessionTest, TheApplicationOutlivesItsWindowInSilence)
     application->showStatus(L"Nobody reads this.", 0);
     EXPECT_FALSE(application->getViewNotifier());
     application->getStatusManager()->setProgress(5, 1);
-    int outcome = 0;
-    application->saveFile(L"/nowhere.stl",
-                          [&](int const* status, wchar_t const*, orv::IApplication*) { outcome = *status; });
-    EXPECT_NE(outcome, 0);
+    SaveOutcomes outcomes;
+    application->saveFile(L"/nowhere.stl", outcomes.completion());
+    ASSERT_EQ(outcomes.told.size(), 1U);
+    EXPECT_NE(outcomes.told[0].status, 0);
+    EXPECT_EQ(outcomes.told[0].path, L"/nowhere.stl");
+    EXPECT_EQ(outcomes.told[0].application, application.get());
     EXPECT_EQ(orvgl::ImageRenderer(document, 8, 8, false).drawFrame().get()[0], 255) << "nothing draws any more";
 }
 
