@@ -42,7 +42,8 @@ Shown ofLabel(const QLabel& label)
     if (label.textFormat() == Qt::RichText) {
         document.setHtml(label.text());
     } else {
-        document.setPlainText(label.text());
+        // The mark of a letter that leads to another control isn't drawn.
+        document.setPlainText(label.buddy() != nullptr ? QString(label.text()).remove('&') : label.text());
     }
     document.setTextWidth(label.contentsRect().width());
     // The ideal width tells of words that are wider than the label. Heights of lines are fractions of pixels here, and
@@ -72,8 +73,31 @@ Shown ofGroupBox(const QGroupBox& box)
             {box.fontMetrics().horizontalAdvance(box.title()), box.fontMetrics().height()}};
 }
 
+Shown ofCheckBox(const QCheckBox& box)
+{
+    QStyleOptionButton option;
+    option.initFrom(&box);
+    return {box.text(), box.style()->subElementRect(QStyle::SE_CheckBoxContents, &option, &box).size(),
+            box.fontMetrics().size(Qt::TextShowMnemonic, box.text())};
+}
+
+Shown ofComboBox(const QComboBox& box)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    return {box.currentText(),
+            box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box).size(),
+            {box.fontMetrics().horizontalAdvance(box.currentText()), box.fontMetrics().height()}};
+}
+
 Shown shownBy(const QWidget& widget)
 {
+    if (const auto* box = qobject_cast<const QCheckBox*>(&widget)) {
+        return ofCheckBox(*box);
+    }
+    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) {
+        return ofComboBox(*box);
+    }
     if (const auto* button = qobject_cast<const QPushButton*>(&widget)) {
         return ofButton(*button);
     }
@@ -114,7 +138,7 @@ std::vector<const QWidget*> controlsOf(const QWidget& window)
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         const bool isControl = qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLabel*>(widget) ||
                                qobject_cast<const QLineEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget) ||
-                               isFrame(*widget);
+                               qobject_cast<const QComboBox*>(widget) || isFrame(*widget);
         const auto* edit = qobject_cast<const QAbstractScrollArea*>(widget->parentWidget());
         if (isControl && edit == nullptr && widget->isVisibleTo(&window)) {
             found.push_back(widget);

@@ -12,6 +12,7 @@
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScreen>
 #include <QSplitter>
 #include <QStackedWidget>
 
@@ -24,8 +25,12 @@ namespace orvviewer
 namespace
 {
 
+using orvplatform::scaled;
+
+// At the plain resolution.
 constexpr int treeWidth = 272;
-constexpr int foldedLimit = 120; ///< a side bar that asks for less is folded to its strip
+constexpr int narrowestPart = 160; ///< of tree and view
+constexpr int foldedLimit = 120;   ///< a side bar that asks for less is folded to its strip
 
 bool isInput(QEvent::Type type)
 {
@@ -63,12 +68,13 @@ MainWindow::MainWindow()
     splitter->setStretchFactor(1, 1);
     splitter->setHandleWidth(1);
     splitter->setChildrenCollapsible(false);
-    modelTree->setMinimumWidth(160);
+    modelTree->setMinimumWidth(scaled(narrowestPart));
     setCentralWidget(splitter);
     setStatusBar(statusLine);
     setAcceptDrops(true);
-    resize(1440, 900);
-    splitter->setSizes({treeWidth, width() - treeWidth});
+    QSize const usual(1440, 900);
+    resize((usual * scaled(100) / 100).boundedTo(screen()->availableSize()).expandedTo(usual));
+    splitter->setSizes({scaled(treeWidth), width() - scaled(treeWidth)});
     showModel({});
 }
 
@@ -91,13 +97,14 @@ void MainWindow::setSideBar(QWidget* bar)
 void MainWindow::followSideBar()
 {
     int const wanted = sideBar->sizeHint().width();
-    bool const isFolded = wanted > 0 && wanted < foldedLimit;
+    bool const isFolded = wanted > 0 && wanted < scaled(foldedLimit);
     sideBar->setMinimumWidth(isFolded ? wanted : orvplatform::sideBarWidth());
     sideBar->setMaximumWidth(isFolded ? wanted : 2 * orvplatform::sideBarWidth());
     int const bar = isFolded ? wanted : orvplatform::sideBarWidth();
     // Before the window is shown sizes say nothing yet.
-    int const left = modelTree->isHidden() ? 0 : isVisible() ? modelTree->width() : treeWidth;
-    splitter->setSizes({left, std::max((isVisible() ? splitter->width() : width()) - left - bar, 160), bar});
+    int const left = modelTree->isHidden() ? 0 : isVisible() ? modelTree->width() : scaled(treeWidth);
+    splitter->setSizes(
+        {left, std::max((isVisible() ? splitter->width() : width()) - left - bar, scaled(narrowestPart)), bar});
 }
 
 void MainWindow::showSideBar(bool shown)

@@ -1,5 +1,7 @@
 #include "viewer/app/MovePanel.h"
 
+#include "platform/qt/Look.h"
+
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QFormLayout>
@@ -12,13 +14,15 @@
 namespace orvviewer
 {
 
+using orvplatform::scaled;
+
 MovePanel::MovePanel(QWidget* parent, std::function<void(double, double, double)> move)
     : QDialog(parent, Qt::Tool), moveBy(std::move(move)), subject(new QLabel(this))
 {
     setWindowTitle(tr("Move"));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 12, 12, 12);
-    layout->setSpacing(8);
+    layout->setContentsMargins(scaled(12), scaled(12), scaled(12), scaled(12));
+    layout->setSpacing(scaled(8));
     subject->setWordWrap(true);
     layout->addWidget(subject);
     auto* form = new QFormLayout;
@@ -45,7 +49,7 @@ MovePanel::MovePanel(QWidget* parent, std::function<void(double, double, double)
     });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    setMinimumWidth(240);
+    setMinimumWidth(scaled(240));
 }
 
 void MovePanel::start(QString const& what, double step)

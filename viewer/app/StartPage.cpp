@@ -1,5 +1,7 @@
 #include "viewer/app/StartPage.h"
 
+#include "platform/qt/Look.h"
+
 #include <QFileInfo>
 #include <QIcon>
 #include <QLabel>
@@ -13,9 +15,15 @@ namespace orvviewer
 namespace
 {
 
+// At the plain resolution.
 constexpr int contentWidth = 720;
 constexpr QSize previewSize(112, 112);
 constexpr QSize tileSize(136, 152);
+
+QSize scaled(QSize size)
+{
+    return {orvplatform::scaled(size.width()), orvplatform::scaled(size.height())};
+}
 
 QLabel* makeLabel(QString const& text, double scale, QPalette::ColorRole colour)
 {
@@ -24,6 +32,7 @@ QLabel* makeLabel(QString const& text, double scale, QPalette::ColorRole colour)
     font.setPointSizeF(font.pointSizeF() * scale);
     label->setFont(font);
     label->setForegroundRole(colour);
+    label->setWordWrap(true);
     return label;
 }
 
@@ -32,34 +41,36 @@ QLabel* makeLabel(QString const& text, double scale, QPalette::ColorRole colour)
 StartPage::StartPage(QWidget* parent) : QWidget(parent), list(new QListWidget), heading(nullptr)
 {
     auto* content = new QWidget(this);
-    content->setMaximumWidth(contentWidth);
+    content->setMaximumWidth(orvplatform::scaled(contentWidth));
     auto* column = new QVBoxLayout(content);
-    column->setSpacing(12);
+    column->setSpacing(orvplatform::scaled(12));
     column->addStretch(1);
     column->addWidget(makeLabel(tr("Open a model"), 1.8, QPalette::WindowText));
     column->addWidget(makeLabel(tr("STEP, IGES, BREP, STL, OBJ or glTF. Drop a file here, or choose one."), 1.0,
                                 QPalette::PlaceholderText));
     auto* open = new QPushButton(tr("&Open..."));
     open->setDefault(true);
-    open->setMinimumHeight(32);
+    open->setMinimumHeight(orvplatform::scaled(32));
     setFocusProxy(open);
-    open->setMinimumWidth(112);
+    open->setMinimumWidth(orvplatform::scaled(112));
     column->addWidget(open, 0, Qt::AlignLeft);
-    column->addSpacing(24);
+    column->addSpacing(orvplatform::scaled(24));
     heading = makeLabel(tr("Recent"), 1.2, QPalette::WindowText);
     column->addWidget(heading);
     list->setViewMode(QListView::IconMode);
-    list->setIconSize(previewSize);
-    list->setGridSize(tileSize);
+    list->setIconSize(scaled(previewSize));
+    list->setGridSize(scaled(tileSize));
     list->setResizeMode(QListView::Adjust);
     list->setMovement(QListView::Static);
     list->setUniformItemSizes(true);
     list->setWordWrap(true);
     list->setFrameShape(QFrame::NoFrame);
     list->setAccessibleName(tr("Recent"));
-    list->setMinimumHeight(2 * tileSize.height());
+    // Two rows where there is room.
+    list->setMinimumHeight(scaled(tileSize).height());
+    list->setMaximumHeight(2 * scaled(tileSize).height());
     list->viewport()->setAutoFillBackground(false);
-    column->addWidget(list);
+    column->addWidget(list, 8);
     column->addStretch(2);
 
     auto* row = new QHBoxLayout(this);
