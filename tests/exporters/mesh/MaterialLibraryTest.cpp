@@ -23,7 +23,8 @@ class MaterialLibrary : public testing::Test
 protected:
     Status save(std::filesystem::path const& file)
     {
-        return loadExporter("objwriter")->save(orvtext::fromUtf8(file.string()).c_str(), scene.document, nullptr, nullptr);
+        return loadExporter("objwriter")
+            ->save(orvtext::fromUtf8(file.string()).c_str(), scene.document, nullptr, nullptr);
     }
     std::set<std::string> files() const
     {
