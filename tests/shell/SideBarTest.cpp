@@ -128,6 +128,20 @@ TEST_F(InterfaceTest, WithoutAWindowForThePaneTheRestGoesOnAndNothingIsAddedTwic
     EXPECT_EQ(tabs.controls[0].title, L"Feeds");
     EXPECT_EQ(tabs.large.size(), 1U);
     EXPECT_EQ(tabs.GetTabsNum(), 0) << "there is nothing to show";
+
+    SideBar living; // is too late
+    EXPECT_TRUE(living.Create(L"Side bar", &frame, CRect(0, 0, 320, 700), 8, WS_CHILD | WS_VISIBLE));
+    for (int call = 0; call < 2; ++call) {
+        plugin->AddToOutlookBar(living.GetSafeHwnd(), resources);
+        plugin->AddToOutlookBar(sideBar.GetSafeHwnd(), ending);
+        EXPECT_TRUE(living.tabs().large.empty());
+        EXPECT_TRUE(living.tabs().small.empty());
+        EXPECT_TRUE(living.tabs().controls.empty());
+        EXPECT_EQ(tabs.large.size(), 1U);
+        EXPECT_EQ(tabs.small.size(), 1U);
+    }
+    EXPECT_TRUE(resources->windows.empty());
+    living.DestroyWindow();
 }
 
 TEST_F(InterfaceTest, TheTabCountsTheEntriesOfTheFeed)
