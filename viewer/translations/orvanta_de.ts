@@ -552,6 +552,10 @@
         <translation>Die Bibliothek „%1“ hat kein Zusatzmodul geliefert. Das Programm arbeitet ohne es weiter; installieren Sie es erneut, um es zurückzubekommen.</translation>
     </message>
     <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>Die Bibliothek „%1“ hat kein Objekt geliefert. Installieren Sie Orvanta erneut, und starten Sie es neu.</translation>
+    </message>
+    <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
         <translation>Der Bildschirm bietet kein OpenGL. Installieren Sie einen Grafiktreiber oder den Softwaretreiber von Mesa.</translation>
     </message>

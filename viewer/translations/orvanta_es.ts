@@ -552,6 +552,10 @@
         <translation>La biblioteca &quot;%1&quot; no creó ningún complemento. El visor sigue funcionando sin él; vuelva a instalarlo para recuperarlo.</translation>
     </message>
     <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>La biblioteca &quot;%1&quot; no creó ningún objeto. Vuelva a instalar Orvanta e inícielo de nuevo.</translation>
+    </message>
+    <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
         <translation>La pantalla no ofrece OpenGL. Instale un controlador gráfico o el controlador por software de Mesa.</translation>
     </message>

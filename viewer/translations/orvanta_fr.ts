@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: it is protected against writing. Choose another name.</source>
-        <translation>Impossible d&apos;écrire « %1 » : il est protégé en écriture. Choisissez un autre nom.</translation>
+        <translation>Impossible d&apos;écrire « %1 » : ce fichier est protégé en écriture. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: you may not write to its folder. Choose another folder.</source>
@@ -550,6 +550,10 @@
     <message>
         <source>The library &quot;%1&quot; made no plug-in. The viewer works on without it; install the plug-in again to get it back.</source>
         <translation>La bibliothèque « %1 » n&apos;a créé aucun module. La visionneuse continue sans lui ; réinstallez le module pour le retrouver.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>La bibliothèque « %1 » n&apos;a créé aucun objet. Réinstallez Orvanta et redémarrez-le.</translation>
     </message>
     <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>

@@ -552,6 +552,10 @@
         <translation>ライブラリ「%1」はプラグインを作成しませんでした。ビューアーはプラグインなしで動作します。元に戻すには、プラグインを再インストールしてください。</translation>
     </message>
     <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>ライブラリ「%1」はオブジェクトを作成しませんでした。Orvanta を再インストールして起動し直してください。</translation>
+    </message>
+    <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
         <translation>画面が OpenGL に対応していません。グラフィックスドライバー、または Mesa のソフトウェアドライバーをインストールしてください。</translation>
     </message>
@@ -629,7 +633,7 @@
     </message>
     <message>
         <source>The picture can't be drawn on this display. Check the graphics driver.</source>
-        <translation>このディスプレイでは画像を描画できません。グラフィックス ドライバーを確認してください。</translation>
+        <translation>この画面では画像を描画できません。グラフィックスドライバーを確認してください。</translation>
     </message>
     <message>
         <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>

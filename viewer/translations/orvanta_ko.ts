@@ -149,7 +149,7 @@
     </message>
     <message>
         <source>Back</source>
-        <translation>뒤</translation>
+        <translation>후면</translation>
     </message>
     <message>
         <source>Look from the back</source>
@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Left</source>
-        <translation>왼쪽</translation>
+        <translation>좌측면</translation>
     </message>
     <message>
         <source>Look from the left</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Right</source>
-        <translation>오른쪽</translation>
+        <translation>우측면</translation>
     </message>
     <message>
         <source>Look from the right</source>
@@ -173,7 +173,7 @@
     </message>
     <message>
         <source>Top</source>
-        <translation>위</translation>
+        <translation>윗면</translation>
     </message>
     <message>
         <source>Look from the top</source>
@@ -181,7 +181,7 @@
     </message>
     <message>
         <source>Bottom</source>
-        <translation>아래</translation>
+        <translation>아랫면</translation>
     </message>
     <message>
         <source>Look from below</source>
@@ -489,7 +489,7 @@
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: it is protected against writing. Choose another name.</source>
-        <translation>&quot;%1&quot;에 쓸 수 없습니다. 쓰기 금지되어 있습니다. 다른 이름을 선택하십시오.</translation>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 쓰기가 금지되어 있습니다. 다른 이름을 선택하십시오.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; can&apos;t be written: you may not write to its folder. Choose another folder.</source>
@@ -550,6 +550,10 @@
     <message>
         <source>The library &quot;%1&quot; made no plug-in. The viewer works on without it; install the plug-in again to get it back.</source>
         <translation>라이브러리 &quot;%1&quot;이(가) 플러그인을 만들지 않았습니다. 뷰어는 플러그인 없이 작동합니다. 되돌리려면 플러그인을 다시 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>라이브러리 &quot;%1&quot;이(가) 개체를 만들지 않았습니다. Orvanta를 다시 설치하고 다시 시작하십시오.</translation>
     </message>
     <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
@@ -617,11 +621,11 @@
     </message>
     <message>
         <source>The library &quot;%1&quot; failed to end: &quot;%2&quot;. Save your work and start Orvanta anew.</source>
-        <translation>라이브러리 &quot;%1&quot;이(가) 제대로 끝나지 않았습니다(&quot;%2&quot;). 작업을 저장하고 Orvanta를 다시 시작하십시오.</translation>
+        <translation>라이브러리 &quot;%1&quot;이(가) 제대로 종료되지 않았습니다(&quot;%2&quot;). 작업을 저장하고 Orvanta를 다시 시작하십시오.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; failed to end. Save your work and start Orvanta anew.</source>
-        <translation>라이브러리 &quot;%1&quot;이(가) 제대로 끝나지 않았습니다. 작업을 저장하고 Orvanta를 다시 시작하십시오.</translation>
+        <translation>라이브러리 &quot;%1&quot;이(가) 제대로 종료되지 않았습니다. 작업을 저장하고 Orvanta를 다시 시작하십시오.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; is no plug-in for the viewer's windows. Move it out of the folder &quot;%2&quot;.</source>
@@ -629,7 +633,7 @@
     </message>
     <message>
         <source>The picture can't be drawn on this display. Check the graphics driver.</source>
-        <translation>이 디스플레이에서는 그림을 그릴 수 없습니다. 그래픽 드라이버를 확인하십시오.</translation>
+        <translation>이 화면에서는 그림을 그릴 수 없습니다. 그래픽 드라이버를 확인하십시오.</translation>
     </message>
     <message>
         <source>The picture &quot;%1&quot; can't be written. Check the folder and that it ends in .png or .jpg.</source>

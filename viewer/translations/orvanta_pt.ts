@@ -541,7 +541,7 @@
     </message>
     <message>
         <source>The library &quot;%1&quot; is missing. Install Orvanta again and start it anew.</source>
-        <translation>A biblioteca &quot;%1&quot; está faltando. Instale o Orvanta novamente e reinicie-o.</translation>
+        <translation>A biblioteca &quot;%1&quot; não foi encontrada. Instale o Orvanta novamente e reinicie-o.</translation>
     </message>
     <message>
         <source>The library &quot;%1&quot; lacks the function &quot;%2&quot;. Install Orvanta again and start it anew.</source>
@@ -550,6 +550,10 @@
     <message>
         <source>The library &quot;%1&quot; made no plug-in. The viewer works on without it; install the plug-in again to get it back.</source>
         <translation>A biblioteca &quot;%1&quot; não criou nenhum plug-in. O visualizador continua sem ele; instale o plug-in novamente para recuperá-lo.</translation>
+    </message>
+    <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>A biblioteca &quot;%1&quot; não criou nenhum objeto. Instale o Orvanta novamente e reinicie-o.</translation>
     </message>
     <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>

@@ -552,6 +552,10 @@
         <translation>库“%1”未创建插件。查看器将在没有该插件的情况下继续运行；如需恢复，请重新安装插件。</translation>
     </message>
     <message>
+        <source>The library &quot;%1&quot; made no object. Install Orvanta again and start it anew.</source>
+        <translation>库“%1”未创建对象。请重新安装并重新启动 Orvanta。</translation>
+    </message>
+    <message>
         <source>The display offers no OpenGL. Install a graphics driver, or Mesa&apos;s software one.</source>
         <translation>显示器不支持 OpenGL。请安装显卡驱动程序，或 Mesa 的软件驱动程序。</translation>
     </message>
@@ -577,7 +581,7 @@
     </message>
     <message>
         <source>Teal</source>
-        <translation>青色</translation>
+        <translation>蓝绿色</translation>
     </message>
     <message>
         <source>Blue</source>
