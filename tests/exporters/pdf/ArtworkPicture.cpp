@@ -11,11 +11,12 @@
 
 #include "exporters/pdf/ArtworkPicture.h"
 
+#include "exporters/pdf/Instances.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <numbers>
 
 namespace orvtest
@@ -25,28 +26,6 @@ namespace
 {
 
 using Point = std::array<double, 3>;
-
-prc::Matrix product(prc::Matrix const& a, prc::Matrix const& b)
-{
-    prc::Matrix result{};
-    for (std::size_t column = 0; column < 4; ++column) {
-        for (std::size_t row = 0; row < 4; ++row) {
-            for (std::size_t k = 0; k < 4; ++k) {
-                result[4 * column + row] += a[4 * k + row] * b[4 * column + k];
-            }
-        }
-    }
-    return result;
-}
-
-Point placed(prc::Matrix const& m, double const* p)
-{
-    Point result{};
-    for (std::size_t row = 0; row < 3; ++row) {
-        result[row] = m[row] * p[0] + m[4 + row] * p[1] + m[8 + row] * p[2] + m[12 + row];
-    }
-    return result;
-}
 
 /// A corner on the picture: pixels from its upper left corner, and the distance along the camera's axis.
 struct Corner {
@@ -77,25 +56,17 @@ public:
 
     ArtworkPicture draw()
     {
-        walk(view.artwork.root, prc::identity);
+        eachInstance(view.artwork,
+                     [this](prc::Occurrence const& occurrence, prc::Part const& part, prc::Matrix const& world) {
+                         if (!occurrence.hidden) {
+                             drawPart(part, world);
+                         }
+                         ++instance;
+                     });
         return std::move(picture);
     }
 
 private:
-    void walk(std::size_t index, prc::Matrix const& above)
-    {
-        auto const& occurrence = view.artwork.occurrences[index];
-        auto const world = product(above, occurrence.placement);
-        auto const part = occurrence.prototype ? view.artwork.occurrences[*occurrence.prototype].part : occurrence.part;
-        if (part && !occurrence.hidden) {
-            drawPart(view.artwork.parts[*part], world);
-        }
-        instance += part ? 1 : 0;
-        for (auto const child : occurrence.children) {
-            walk(child, world);
-        }
-    }
-
     void drawPart(prc::Part const& part, prc::Matrix const& world)
     {
         for (auto const& body : part.bodies) {
@@ -105,7 +76,7 @@ private:
             auto const& mesh = view.artwork.meshes[*body.mesh];
             std::vector<Corner> corners;
             for (std::size_t i = 0; i < mesh.points.size(); i += 3) {
-                corners.push_back(cornerOf(placed(world, &mesh.points[i])));
+                corners.push_back(cornerOf(pointIn(world, &mesh.points[i])));
             }
             std::size_t triangle = 0;
             for (auto const& face : mesh.faces) {
