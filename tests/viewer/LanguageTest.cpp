@@ -1,7 +1,9 @@
 #include "tests/support/ScopedVariables.h"
 #include "tests/viewer/SessionFixture.h"
+#include "tests/viewer/TranslationFiles.h"
 
 #include "host/orvsgutils/ResourceLoader.h"
+#include "host/orvsgutils/SceneQuery.h"
 #include "host/runtime/Runtime.h"
 #include "platform/qt/Native.h"
 #include "platform/testing/ModalExpectation.h"
@@ -10,132 +12,25 @@
 #include "viewer/app/Preferences.h"
 #include "viewer/commands/CommandId.h"
 
+#include <QColorDialog>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDialogButtonBox>
 #include <QDir>
-#include <QFile>
+#include <QMenu>
 #include <QPushButton>
-#include <QRegularExpression>
-#include <QXmlStreamReader>
 
 #include <afxcontrolbars.h>
+#include <afxdlgs.h>
 
 #include <cstdlib>
 #include <map>
-#include <set>
 
 using namespace orvtest;
 using orvviewer::chooseLanguage;
 
 namespace
 {
-
-std::vector<std::string> const translated{"fr", "de", "ja", "ko", "zh", "es", "pt"};
-
-/// All of a file's string literals stand whole: those of neighbouring lines are put together.
-QString sourceText(std::filesystem::path const& path)
-{
-    QFile file(QString::fromStdString(path.string()));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    static QRegularExpression const seam("\"\\s*\n\\s*L?\"");
-    return QString::fromUtf8(file.readAll()).replace(seam, "");
-}
-
-QString allSources()
-{
-    QString all;
-    for (char const* const folder : {"viewer", "platform/qt", "host/orv"}) {
-        for (auto const& entry :
-             std::filesystem::recursive_directory_iterator(std::filesystem::path(ORV_SOURCE_DIR) / folder)) {
-            if (entry.path().extension() == ".cpp") {
-                all += sourceText(entry.path());
-            }
-        }
-    }
-    return all;
-}
-
-/// The texts that the sources give out to be translated.
-std::set<QString> textsToTranslate()
-{
-    static QRegularExpression const call(
-        R"re(\b(?:tr|localized|word|QT_TRANSLATE_NOOP)\(\s*(?:"Orvanta",\s*)?"((?:[^"\\]|\\.)*)")re");
-    std::set<QString> texts;
-    auto const sources = allSources();
-    for (auto matches = call.globalMatch(sources); matches.hasNext();) {
-        texts.insert(matches.next().captured(1).replace("\\\"", "\""));
-    }
-    static QRegularExpression const panel(R"re(addPanel\(\*category, "([^"]*)")re");
-    for (auto matches = panel.globalMatch(sources); matches.hasNext();) {
-        texts.insert(matches.next().captured(1));
-    }
-    return texts;
-}
-
-/// The sentences that go to the user through localizedSentence, with "%1" and "%2" for the names in them.
-std::set<QString> sentencesToTranslate()
-{
-    static QRegularExpression const given(
-        R"re((?:\b(?:showStatus|complain|report)\(|\b(?:error|errorText|message|return) ?=? ?)(L"(?:[^"\\]|\\.)*"(?: \+ [\w.()]+ \+ L"(?:[^"\\]|\\.)*")*)[);])re");
-    static QRegularExpression const name(R"re(\\"" \+ [\w.()]+ \+ L"\\")re");
-    static QRegularExpression const word(R"re(\\"([^"\\%]*)\\")re");
-    std::set<QString> sentences;
-    for (char const* const folder : {"viewer/app", "viewer/plugins", "viewer/scene", "viewer/import"}) {
-        for (auto const& entry : std::filesystem::directory_iterator(std::filesystem::path(ORV_SOURCE_DIR) / folder)) {
-            if (entry.path().extension() != ".cpp" || entry.path().stem() == "CommandLine") { // that one is English
-                continue;
-            }
-            auto const source = sourceText(entry.path());
-            for (auto matches = given.globalMatch(source); matches.hasNext();) {
-                auto text = matches.next().captured(1).mid(2).chopped(1);
-                for (int number = 1; text.contains(name); ++number) {
-                    text.replace(text.indexOf(name), name.match(text).capturedLength(), QString("\"%%1\"").arg(number));
-                }
-                for (int number = 1 + static_cast<int>(text.count("\"%")); text.contains(word); ++number) {
-                    text.replace(text.indexOf(word), word.match(text).capturedLength(), QString("\"%%1\"").arg(number));
-                }
-                if (text.endsWith('.') && text.contains(' ')) {
-                    sentences.insert(text);
-                }
-            }
-        }
-    }
-    return sentences;
-}
-
-std::map<QString, QString> translationsOf(std::string const& code)
-{
-    QFile file(QString::fromStdString(std::string(ORV_SOURCE_DIR) + "/viewer/translations/orvanta_" + code + ".ts"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    std::map<QString, QString> texts;
-    QXmlStreamReader xml(&file);
-    QString source;
-    while (!xml.atEnd()) {
-        xml.readNext();
-        if (xml.isStartElement() && xml.name() == u"source") {
-            source = xml.readElementText();
-        } else if (xml.isStartElement() && xml.name() == u"translation") {
-            EXPECT_FALSE(xml.attributes().hasAttribute("type")) << "unfinished: " << source.toStdString();
-            texts[source] = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-        }
-    }
-    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-    return texts;
-}
-
-std::multiset<QString> marksOf(QString const& text)
-{
-    static QRegularExpression const mark("%[0-9]|&");
-    std::multiset<QString> marks;
-    for (auto matches = mark.globalMatch(text); matches.hasNext();) {
-        marks.insert(matches.next().captured());
-    }
-    return marks;
-}
-
-class LanguageFiles : public testing::TestWithParam<std::string>
-{
-};
 
 class LanguageTest : public SessionFixture
 {
@@ -182,86 +77,6 @@ protected:
 
 } // namespace
 
-TEST_P(LanguageFiles, HoldEveryTextOfTheViewer)
-{
-    auto const translations = translationsOf(GetParam());
-    auto const texts = textsToTranslate();
-    EXPECT_GE(texts.size(), 90U);
-    for (auto const& text : texts) {
-        auto const found = translations.find(text);
-        ASSERT_NE(found, translations.end()) << text.toStdString();
-        EXPECT_FALSE(found->second.isEmpty()) << text.toStdString();
-    }
-}
-
-TEST_P(LanguageFiles, HoldEverySentenceThatIsReported)
-{
-    auto const translations = translationsOf(GetParam());
-    auto const sentences = sentencesToTranslate();
-    EXPECT_GE(sentences.size(), 12U);
-    EXPECT_TRUE(sentences.contains("\"%1\" was saved.") ||
-                sentences.contains("\"%1\" can't be written: the disk is full. Make room, or choose another disk."));
-    for (auto const& sentence : sentences) {
-        EXPECT_TRUE(translations.contains(sentence)) << sentence.toStdString();
-    }
-}
-
-TEST_P(LanguageFiles, SayNothingInEnglish)
-{
-    // Words that are the same in the language; and names, units and marks.
-    std::map<std::string, std::set<QString>> const alike{
-        {"fr", {"Message", "Perspective", "&Opaque", "Options", "Orange", "Violet"}},
-        {"de", {"Orange"}},
-        {"es", {"General"}},
-    };
-    std::set<QString> const everywhere{"%1 %", " mm", "OK"};
-    auto const own = alike.find(GetParam());
-    for (auto const& [text, translation] : translationsOf(GetParam())) {
-        if (!everywhere.contains(text)) { // those may be alike
-            EXPECT_EQ(translation == text, own != alike.end() && own->second.contains(text)) << text.toStdString();
-        }
-    }
-}
-
-TEST_P(LanguageFiles, KeepFrenchMarksOnTheirLine)
-{
-    if (GetParam() != "fr") {
-        GTEST_SKIP() << "a rule of French";
-    }
-    static QRegularExpression const breakable(" [:;?!\u00BB]|\u00AB ");
-    for (auto const& [text, translation] : translationsOf(GetParam())) {
-        EXPECT_FALSE(translation.contains(breakable)) << translation.toStdString();
-    }
-}
-
-TEST_P(LanguageFiles, HoldNothingElse)
-{
-    auto const sources = allSources();
-    static QRegularExpression const seams("\"?%[0-9]\"?|(?<=[.:]) ");
-    for (auto const& [text, translation] : translationsOf(GetParam())) {
-        for (auto const& piece : text.split(seams, Qt::SkipEmptyParts)) {
-            auto words = piece.trimmed();
-            if (words.endsWith(':') || (words.endsWith('.') && !sources.contains(words))) {
-                words.chop(1); // a reason may follow
-            }
-            EXPECT_TRUE(words.size() < 2 || sources.contains(words))
-                << text.toStdString() << ": " << words.toStdString();
-        }
-    }
-}
-
-TEST_P(LanguageFiles, KeepTheMarksOfEachText)
-{
-    for (auto const& [text, translation] : translationsOf(GetParam())) {
-        EXPECT_EQ(marksOf(translation), marksOf(text)) << text.toStdString();
-        EXPECT_EQ(translation.contains("..."), text.contains("...")) << text.toStdString();
-        EXPECT_EQ(translation.startsWith(' '), text.startsWith(' ')) << text.toStdString();
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, LanguageFiles, testing::ValuesIn(translated),
-                         [](auto const& test) { return test.param; });
-
 TEST(Language, IsTheOneAskedForThenThePreferredThenTheSystems)
 {
     orvtest::ScopedVariables const earlier{"LC_ALL", "LC_MESSAGES", "LANG"};
@@ -306,6 +121,24 @@ TEST_F(LanguageTest, APluginThatFailedSpeaksTheLanguage)
                                      L"Installieren Sie Orvanta erneut, und starten Sie es neu.");
 }
 
+TEST_F(LanguageTest, WhatALibraryDidWrongIsSaidInEachLanguage)
+{
+    for (auto const& code : translated) {
+        orvviewer::useViewerLanguage(std::wstring(code.begin(), code.end()));
+        for (wchar_t const* const sentence :
+             {L"The library \"a.so\" is missing. Install Orvanta again and start it anew.",
+              L"The library \"a.so\" can't be loaded: \"b\". Install Orvanta again and start it anew.",
+              L"The library \"a.so\" lacks the function \"b\". Install Orvanta again and start it anew.",
+              L"The library \"a.so\" failed to start: \"b\". Install Orvanta again and start it anew.",
+              L"The library \"a.so\" failed to start. Install Orvanta again and start it anew.",
+              L"The library \"a.so\" made no object. Install Orvanta again and start it anew.",
+              L"The library \"a.so\" failed to end: \"b\". Save your work and start Orvanta anew.",
+              L"The library \"a.so\" failed to end. Save your work and start Orvanta anew."}) {
+            EXPECT_NE(orvviewer::localizedSentence(sentence), sentence) << code;
+        }
+    }
+}
+
 TEST_F(LanguageTest, NamesMayHoldQuotationMarks)
 {
     startIn(L"de");
@@ -343,6 +176,90 @@ TEST_F(LanguageTest, TheToolkitsOwnDialogsSpeakTheLanguage)
         EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel").remove('&').section('(', 0, 0), word) << code;
         EXPECT_NE(QCoreApplication::translate("QColorDialog", "Hu&e:"), "Hu&e:") << code;
         EXPECT_NE(QCoreApplication::translate("QFileDialog", "Look in:"), "Look in:") << code;
+    }
+}
+
+TEST_F(LanguageTest, TheColourDialogsButtonsSpeakTheLanguage)
+{
+    std::map<std::string, std::pair<QString, QString>> const words{
+        {"fr", {"OK", "Annuler"}}, {"de", {"OK", "Abbrechen"}}, {"ja", {"OK", "キャンセル"}},
+        {"ko", {"확인", "취소"}},  {"zh", {"确定", "取消"}},    {"es", {"Aceptar", "Cancelar"}},
+        {"pt", {"OK", "Cancelar"}}};
+    for (auto const& [code, captions] : words) {
+        SCOPED_TRACE(code);
+        startIn(std::wstring(code.begin(), code.end()));
+        auto const translations = translationsOf(code);
+        auto const menus = session->window().findChildren<QMenu*>();
+        QAction* other = nullptr;
+        for (auto const* menu : menus) {
+            for (auto* action : menu->actions()) {
+                other = action->text() == translations.at("&Other colour...") ? action : other;
+            }
+        }
+        ASSERT_NE(other, nullptr);
+        other->trigger();
+        auto* const dialog = session->window().findChild<QColorDialog*>();
+        ASSERT_NE(dialog, nullptr);
+        auto const* const buttons = dialog->findChild<QDialogButtonBox*>();
+        ASSERT_NE(buttons, nullptr);
+        auto const caption = [buttons](QDialogButtonBox::StandardButton which) {
+            return buttons->button(which)->text().remove('&').section('(', 0, 0);
+        };
+        EXPECT_EQ(caption(QDialogButtonBox::Ok), captions.first);
+        EXPECT_EQ(caption(QDialogButtonBox::Cancel), captions.second);
+        dialog->close();
+    }
+}
+
+TEST_F(LanguageTest, TheColourMenuColoursInEachLanguage)
+{
+    for (char const* const code : {"de", "ja", "pt"}) {
+        SCOPED_TRACE(code);
+        auto const translations = translationsOf(code);
+        startIn(QString(code).toStdWString());
+        ASSERT_TRUE(session->openModel(writeThreeCubes(folder.path).wstring()));
+        int const part = 1;
+        session->context().select({part});
+        auto const choose = [&](char const* english) {
+            for (auto const* menu : session->window().findChildren<QMenu*>()) {
+                for (auto* action : menu->actions()) {
+                    if (action->text() == translations.at(english)) {
+                        action->trigger();
+                        return true;
+                    }
+                }
+            }
+            return false;
+        };
+        auto const scene = [this] { return orvsgutils::SceneQuery(session->document()); };
+        auto const before = scene().color(part);
+        ASSERT_TRUE(choose("Red"));
+        EXPECT_EQ(scene().color(part), 0x4545D6U);
+        EXPECT_TRUE(scene().isColoredByUser(part));
+        ASSERT_TRUE(choose("&As in the file"));
+        EXPECT_EQ(scene().color(part), before);
+        EXPECT_FALSE(scene().isColoredByUser(part));
+    }
+}
+
+TEST_F(LanguageTest, TheOpenDialogNamesTheModelsInTheLanguage)
+{
+    orvplatform::testing::ModalScript script([](std::string const& why) { ADD_FAILURE() << why; });
+    auto const model = writeThreeCubes(folder.path);
+    for (auto const& code : translated) {
+        SCOPED_TRACE(code);
+        startIn(std::wstring(code.begin(), code.end()));
+        auto const models = translationsOf(code).at("Models").toStdWString();
+        script.expectModal<CFileDialog>([&](CFileDialog& dialog) {
+            std::wstring const name = dialog.m_ofn.lpstrFilter;
+            EXPECT_EQ(name, models);
+            std::wstring const patterns = dialog.m_ofn.lpstrFilter + name.size() + 1;
+            EXPECT_NE((L";" + patterns + L";").find(L";*.obj;"), std::wstring::npos);
+            orvplatform::testing::choosePath(dialog, model.wstring());
+            return IDOK;
+        });
+        EXPECT_TRUE(session->runCommand(orvviewer::openFile));
+        EXPECT_NE(session->document(), nullptr);
     }
 }
 

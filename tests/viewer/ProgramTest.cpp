@@ -130,6 +130,23 @@ TEST(Program, TellsItsOptionsAndItsVersion)
     EXPECT_NE(run.errors.find("isn't known"), std::string::npos);
 }
 
+TEST(Program, TellsItsOptionsAndMistakesInTheLanguage)
+{
+    TemporaryFolder const folder;
+    auto const help = runViewer(folder, {"--language", "fr", "--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_NE(help.output.find("Utilisation\u00a0: orvanta [FILE] [OPTION]...\n"), std::string::npos) << help.output;
+    EXPECT_NE(help.output.find("\n  --service URL      adresse du service cloud\n"), std::string::npos) << help.output;
+    EXPECT_EQ(help.output.find("exit"), std::string::npos) << "nothing in English";
+    auto const mistake = runViewer(folder, {"--language", "de", "--frobnicate"});
+    EXPECT_EQ(mistake.status, 2);
+    EXPECT_EQ(mistake.errors,
+              "orvanta: Die Option „--frobnicate“ ist nicht bekannt. Mit --help werden alle Optionen angezeigt.\n");
+    auto const noDisplay = runViewer(folder, {"--language", "de"});
+    EXPECT_EQ(noDisplay.status, 1);
+    EXPECT_EQ(noDisplay.errors.rfind("orvanta: Es gibt keinen Bildschirm für ein Fenster.", 0), 0U) << noDisplay.errors;
+}
+
 TEST(Program, SaysThatAWindowNeedsADisplay)
 {
     TemporaryFolder const folder;

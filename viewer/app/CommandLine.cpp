@@ -1,6 +1,9 @@
 #include "viewer/app/CommandLine.h"
 
 #include "platform/text/Text.h"
+#include "viewer/app/Language.h"
+
+#include <QtGlobal>
 
 #include <algorithm>
 #include <cstdlib>
@@ -89,15 +92,29 @@ CommandLine readCommandLine(int count, char const* const* arguments)
 
 std::wstring usage()
 {
-    return L"Usage: orvanta [FILE] [OPTION]...\n"
-           L"Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.\n\n"
-           L"  --service URL      address of the cloud service\n"
-           L"  --data DIR         where the user's data lies\n"
-           L"  --language CODE    language of the windows, two letters\n"
-           L"  --export OUT       write FILE to OUT in the format of its ending and exit; may be repeated\n"
-           L"  --screenshot OUT   draw FILE to a picture (.png, .jpg) and exit\n"
-           L"  --help             show this text and exit\n"
-           L"  --version          show the version and exit\n";
+    struct Option {
+        char const* form;
+        char const* meaning;
+    };
+    static constexpr Option options[] = {
+        {"--service URL", QT_TRANSLATE_NOOP("Orvanta", "address of the cloud service")},
+        {"--data DIR", QT_TRANSLATE_NOOP("Orvanta", "where the user's data lies")},
+        {"--language CODE", QT_TRANSLATE_NOOP("Orvanta", "language of the windows, two letters")},
+        {"--export OUT",
+         QT_TRANSLATE_NOOP("Orvanta", "write FILE to OUT in the format of its ending and exit; may be repeated")},
+        {"--screenshot OUT", QT_TRANSLATE_NOOP("Orvanta", "draw FILE to a picture (.png, .jpg) and exit")},
+        {"--help", QT_TRANSLATE_NOOP("Orvanta", "show this text and exit")},
+        {"--version", QT_TRANSLATE_NOOP("Orvanta", "show the version and exit")},
+    };
+    constexpr int column = 19;
+    auto text = localized(QT_TRANSLATE_NOOP("Orvanta", "Usage: orvanta [FILE] [OPTION]...")) + '\n' +
+                localized(QT_TRANSLATE_NOOP("Orvanta",
+                                            "Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.")) +
+                "\n\n";
+    for (auto const& option : options) {
+        text += "  " + QString(option.form).leftJustified(column) + localized(option.meaning) + '\n';
+    }
+    return text.toStdWString();
 }
 
 std::wstring systemLanguage()

@@ -16,7 +16,7 @@ struct CommandLine {
     std::wstring screenshot;
     bool wantsHelp = false;
     bool wantsVersion = false;
-    std::wstring error; ///< a whole sentence; empty where all is well
+    std::wstring error; ///< a whole sentence in English (localizedSentence); empty where all is well
 
     /// True where no window is to be opened.
     bool isHeadless() const { return !exports.empty() || !screenshot.empty(); }
@@ -25,6 +25,7 @@ struct CommandLine {
 /// Arguments as main gets them, in UTF-8, the program's name first.
 CommandLine readCommandLine(int count, char const* const* arguments);
 
+/// What `--help` shows, in the viewer's language.
 std::wstring usage();
 
 /// The system's language as two letters, "en" where it can't be told.

@@ -45,16 +45,39 @@ void choosePlatform(bool isHeadless)
     }
 }
 
+/// The language for what is said before there is an application with windows.
+class EarlyWords
+{
+public:
+    EarlyWords(int count, char** arguments, CommandLine const& line) : number(count), application(number, arguments)
+    {
+        orvhost::Settings settings;
+        settings.dataDirectory = line.dataDirectory;
+        orvhost::configure(settings); // the preferences are found by it
+        useViewerLanguage(chooseLanguage(line.language, ViewerPreferences::load().language));
+    }
+
+    static void complain(std::wstring const& sentence)
+    {
+        std::cerr << "orvanta: " << orvtext::toUtf8(localizedSentence(sentence)) << std::endl;
+    }
+
+private:
+    int number; // the application refers to it
+    QCoreApplication application;
+};
+
 } // namespace
 
 int runProgram(int count, char** arguments)
 {
     auto const line = readCommandLine(count, arguments);
     if (!line.error.empty()) {
-        std::cerr << "orvanta: " << orvtext::toUtf8(line.error) << std::endl;
+        EarlyWords(count, arguments, line).complain(line.error);
         return usageError;
     }
     if (line.wantsHelp) {
+        EarlyWords const words(count, arguments, line);
         std::cout << orvtext::toUtf8(usage());
         return 0;
     }
@@ -64,9 +87,9 @@ int runProgram(int count, char** arguments)
     }
     bool const hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
     if (!line.isHeadless() && !hasDisplay) {
-        std::cerr << "orvanta: There is no display to open a window on. Start it from a desktop session, or use "
-                     "--export or --screenshot."
-                  << std::endl;
+        EarlyWords(count, arguments, line)
+            .complain(L"There is no display to open a window on. Start it from a desktop session, or use --export or "
+                      L"--screenshot.");
         return 1;
     }
     choosePlatform(line.isHeadless());

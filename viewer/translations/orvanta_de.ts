@@ -664,5 +664,65 @@
             <numerusform>%Ln ausgewählt</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>Es kann nur ein Modell auf einmal geöffnet werden. Geben Sie eine Datei an.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>Die Option „%1“ ist nicht bekannt. Mit --help werden alle Optionen angezeigt.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>Der Option „%1“ fehlt ein Wert. Mit --help werden alle Optionen angezeigt.</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>Die Sprache muss ein Code aus zwei Buchstaben sein, zum Beispiel „%1“.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>Es gibt nichts zu exportieren oder zu zeichnen. Geben Sie auch eine Modelldatei an.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>Es gibt keinen Bildschirm für ein Fenster. Starten Sie das Programm aus einer Desktopsitzung, oder verwenden Sie --export oder --screenshot.</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>Aufruf: orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>Zeigt und prüft 3D-CAD-Modelle: STEP, IGES, BREP, STL, OBJ und glTF.</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>Adresse des Cloud-Dienstes</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>Ordner für die Daten des Benutzers</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>Sprache der Fenster, zwei Buchstaben</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>FILE im Format der Endung nach OUT schreiben und beenden; mehrfach möglich</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>FILE als Bild (.png, .jpg) zeichnen und beenden</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>diesen Text anzeigen und beenden</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>die Version anzeigen und beenden</translation>
+    </message>
 </context>
 </TS>

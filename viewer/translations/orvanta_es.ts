@@ -664,5 +664,65 @@
             <numerusform>%Ln seleccionadas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>Solo se puede abrir un modelo a la vez. Indique un solo archivo.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>La opción &quot;%1&quot; no existe. Use --help para ver todas las opciones.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>La opción &quot;%1&quot; necesita un valor. Use --help para ver todas las opciones.</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>El idioma debe ser un código de dos letras, por ejemplo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>No hay nada que exportar ni dibujar. Indique también un archivo de modelo.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>No hay pantalla en la que abrir una ventana. Inicie el visor desde una sesión de escritorio o use --export o --screenshot.</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>Uso: orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>Muestra y revisa modelos CAD 3D: STEP, IGES, BREP, STL, OBJ y glTF.</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>dirección del servicio en la nube</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>carpeta de los datos del usuario</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>idioma de las ventanas, dos letras</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>escribir FILE en OUT con el formato de su extensión y salir; se puede repetir</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>dibujar FILE en una imagen (.png, .jpg) y salir</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>mostrar este texto y salir</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>mostrar la versión y salir</translation>
+    </message>
 </context>
 </TS>

@@ -664,5 +664,65 @@
             <numerusform>%Ln sélectionnées</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>Un seul modèle peut être ouvert à la fois. Indiquez un seul fichier.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>L'option « %1 » est inconnue. Utilisez --help pour voir toutes les options.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>L'option « %1 » nécessite une valeur. Utilisez --help pour voir toutes les options.</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>La langue doit être un code de deux lettres, par exemple « %1 ».</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>Il n'y a rien à exporter ni à dessiner. Indiquez aussi un fichier de modèle.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>Il n'y a pas d'écran pour ouvrir une fenêtre. Démarrez la visionneuse depuis une session de bureau, ou utilisez --export ou --screenshot.</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>Utilisation : orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>Affiche et passe en revue des modèles CAO 3D : STEP, IGES, BREP, STL, OBJ et glTF.</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>adresse du service cloud</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>dossier des données de l'utilisateur</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>langue des fenêtres, deux lettres</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>écrire FILE dans OUT au format de son extension et quitter ; peut être répété</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>dessiner FILE dans une image (.png, .jpg) et quitter</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>afficher ce texte et quitter</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>afficher la version et quitter</translation>
+    </message>
 </context>
 </TS>

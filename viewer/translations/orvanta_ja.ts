@@ -661,5 +661,65 @@
             <numerusform>%Ln 選択</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>一度に開けるモデルは 1 つだけです。ファイルを 1 つ指定してください。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>オプション「%1」はありません。--help ですべてのオプションを表示できます。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>オプション「%1」には値が必要です。--help ですべてのオプションを表示できます。</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>言語は「%1」のような 2 文字のコードで指定してください。</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>エクスポートまたは描画するものがありません。モデルファイルも指定してください。</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>ウィンドウを開く画面がありません。デスクトップセッションから起動するか、--export または --screenshot を使用してください。</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>使い方: orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>3D CAD モデルの表示とレビュー: STEP、IGES、BREP、STL、OBJ、glTF。</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>クラウドサービスのアドレス</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>ユーザーデータのフォルダー</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>ウィンドウの言語（2 文字）</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>FILE を OUT の拡張子の形式で書き込んで終了（複数指定可）</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>FILE を画像 (.png、.jpg) に描画して終了</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>このテキストを表示して終了</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>バージョンを表示して終了</translation>
+    </message>
 </context>
 </TS>

@@ -661,5 +661,65 @@
             <numerusform>%Ln개 선택됨</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>한 번에 하나의 모델만 열 수 있습니다. 파일을 하나만 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>옵션 &quot;%1&quot;은(는) 알 수 없는 옵션입니다. 모든 옵션을 보려면 --help를 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>옵션 &quot;%1&quot;에는 값이 필요합니다. 모든 옵션을 보려면 --help를 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>언어는 &quot;%1&quot;와(과) 같은 두 글자 코드여야 합니다.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>내보내거나 그릴 것이 없습니다. 모델 파일도 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>창을 열 화면이 없습니다. 데스크톱 세션에서 시작하거나 --export 또는 --screenshot을 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>사용법: orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>3D CAD 모델 보기 및 검토: STEP, IGES, BREP, STL, OBJ, glTF.</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>클라우드 서비스의 주소</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>사용자 데이터 폴더</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>창의 언어(두 글자)</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>FILE을 OUT의 확장자 형식으로 쓰고 종료(반복 가능)</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>FILE을 그림(.png, .jpg)으로 그리고 종료</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>이 텍스트를 표시하고 종료</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>버전을 표시하고 종료</translation>
+    </message>
 </context>
 </TS>

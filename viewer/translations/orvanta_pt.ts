@@ -664,5 +664,65 @@
             <numerusform>%Ln selecionadas</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>Só é possível abrir um modelo por vez. Informe um único arquivo.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>A opção &quot;%1&quot; não existe. Use --help para ver todas as opções.</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>A opção &quot;%1&quot; precisa de um valor. Use --help para ver todas as opções.</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>O idioma deve ser um código de duas letras, por exemplo &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>Não há nada para exportar ou desenhar. Informe também um arquivo de modelo.</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>Não há tela para abrir uma janela. Inicie o visualizador a partir de uma sessão de desktop ou use --export ou --screenshot.</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>Uso: orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>Exibe e revisa modelos CAD 3D: STEP, IGES, BREP, STL, OBJ e glTF.</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>endereço do serviço na nuvem</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>pasta dos dados do usuário</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>idioma das janelas, duas letras</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>gravar FILE em OUT no formato de sua extensão e sair; pode ser repetido</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>desenhar FILE em uma imagem (.png, .jpg) e sair</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>mostrar este texto e sair</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>mostrar a versão e sair</translation>
+    </message>
 </context>
 </TS>

@@ -661,5 +661,65 @@
             <numerusform>已选择 %Ln 个</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Only one model can be opened at a time. Give one file.</source>
+        <translation>一次只能打开一个模型。请只指定一个文件。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; isn't known. Use --help to see all options.</source>
+        <translation>未知选项“%1”。使用 --help 查看所有选项。</translation>
+    </message>
+    <message>
+        <source>The option &quot;%1&quot; needs a value. Use --help to see all options.</source>
+        <translation>选项“%1”需要一个值。使用 --help 查看所有选项。</translation>
+    </message>
+    <message>
+        <source>The language must be a code of two letters, such as &quot;%1&quot;.</source>
+        <translation>语言必须是两个字母的代码，例如“%1”。</translation>
+    </message>
+    <message>
+        <source>There is nothing to export or draw. Give a model file, too.</source>
+        <translation>没有可导出或绘制的内容。请同时指定模型文件。</translation>
+    </message>
+    <message>
+        <source>There is no display to open a window on. Start it from a desktop session, or use --export or --screenshot.</source>
+        <translation>没有可打开窗口的显示器。请从桌面会话启动，或使用 --export 或 --screenshot。</translation>
+    </message>
+    <message>
+        <source>Usage: orvanta [FILE] [OPTION]...</source>
+        <translation>用法: orvanta [FILE] [OPTION]...</translation>
+    </message>
+    <message>
+        <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
+        <translation>查看和审阅三维 CAD 模型：STEP、IGES、BREP、STL、OBJ 和 glTF。</translation>
+    </message>
+    <message>
+        <source>address of the cloud service</source>
+        <translation>云服务的地址</translation>
+    </message>
+    <message>
+        <source>where the user's data lies</source>
+        <translation>用户数据所在的文件夹</translation>
+    </message>
+    <message>
+        <source>language of the windows, two letters</source>
+        <translation>窗口的语言，两个字母</translation>
+    </message>
+    <message>
+        <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
+        <translation>按扩展名的格式将 FILE 写入 OUT 后退出；可重复使用</translation>
+    </message>
+    <message>
+        <source>draw FILE to a picture (.png, .jpg) and exit</source>
+        <translation>将 FILE 绘制为图片（.png、.jpg）后退出</translation>
+    </message>
+    <message>
+        <source>show this text and exit</source>
+        <translation>显示此文本后退出</translation>
+    </message>
+    <message>
+        <source>show the version and exit</source>
+        <translation>显示版本后退出</translation>
+    </message>
 </context>
 </TS>
