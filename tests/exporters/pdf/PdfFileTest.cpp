@@ -163,6 +163,24 @@ TEST_F(PdfFile, PosterIsTheCurrentViewWithoutWhatStandsBesideTheModel)
     EXPECT_EQ(page.at(0.01, 0.5), (std::array<int, 3>{255, 255, 255})) << "outside of it the page is white";
 }
 
+TEST_F(PdfFile, FrameRunsAroundThePosterOnAllSides)
+{
+    save();
+    auto const rectangle = annotation().getKey("/Rect").getArrayAsRectangle();
+    constexpr int perPoint = 4;
+    auto const page = pageOf(file, 72 * perPoint);
+    auto const grey = [&](double x, double y) { // points from the upper left corner
+        auto const color = page.pixel(static_cast<int>(x * perPoint), static_cast<int>(y * perPoint));
+        return color[0] > 150 && color[0] < 210 && color[0] == color[1] && color[1] == color[2];
+    };
+    double const height = static_cast<double>(page.height) / perPoint;
+    double const middle = height - (rectangle.lly + rectangle.ury) / 2;
+    EXPECT_TRUE(grey(rectangle.llx - 0.5, middle));
+    EXPECT_TRUE(grey(rectangle.urx + 0.5, middle));
+    EXPECT_TRUE(grey(300, height - rectangle.ury - 0.5));
+    EXPECT_TRUE(grey(300, height - rectangle.lly + 0.5));
+}
+
 TEST_F(PdfFile, WithoutADisplayTheFieldSaysWhatItIs)
 {
     renderer->canDraw = false;
