@@ -3,7 +3,7 @@
 #include "afxmaskededit.h"
 
 #include "platform/qt/Controls.h"
-#include "platform/qt/Native.h"
+#include "platform/qt/Gdi.h"
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
@@ -119,7 +119,7 @@ void CMFCButton::SetImage(UINT bitmapId, UINT, UINT)
 void CMFCButton::SetImage(HBITMAP bitmap, BOOL autoDestroy)
 {
     hasPicture = bitmap != nullptr;
-    orvplatform::setButtonPicture(m_hWnd, orvplatform::pixmapOf(bitmap));
+    orvplatform::setButtonPicture(m_hWnd, orvplatform::imageOf(bitmap));
     if (autoDestroy)
         ::DeleteObject(bitmap);
     applyStyle();
@@ -128,7 +128,7 @@ void CMFCButton::SetImage(HBITMAP bitmap, BOOL autoDestroy)
 void CMFCButton::SetImage(HICON icon, BOOL autoDestroy)
 {
     hasPicture = icon != nullptr;
-    orvplatform::setButtonPicture(m_hWnd, orvplatform::pixmapOf(icon));
+    orvplatform::setButtonPicture(m_hWnd, orvplatform::imageOf(icon));
     if (autoDestroy)
         DestroyIcon(icon);
     applyStyle();

@@ -1,5 +1,6 @@
 #include "afxtaskspane.h"
 
+#include "platform/qt/Sleep.h"
 #include "platform/qt/TasksWidget.h"
 
 #include <algorithm>
@@ -97,6 +98,7 @@ void CMFCTasksPane::RemoveGroup(int group)
     const std::unique_ptr<CMFCTasksPaneTaskGroup> taken = std::move(*place);
     groups.erase(place);
     for (const CMFCTasksPaneTask& task : taken->m_lstTasks) {
+        orvplatform::setPlaced(task.m_hwndTask, false);
         if (task.m_bAutoDestroyWindow)
             ::DestroyWindow(task.m_hwndTask);
         else if (redraws)
@@ -150,6 +152,7 @@ int CMFCTasksPane::AddWindow(int index, HWND window, int height, BOOL autoDestro
     if (!group || !IsWindow(window))
         return -1;
     group->m_lstTasks.push_back({window, std::max(height, 0), autoDestroy, commandId});
+    orvplatform::setPlaced(window, true);
     RecalcLayout();
     return static_cast<int>(group->m_lstTasks.size()) - 1;
 }

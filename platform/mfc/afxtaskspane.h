@@ -28,8 +28,8 @@ struct CMFCTasksPaneTaskGroup {
 
 // A vertically scrolling list of titled groups, below a caption strip of 20 pixels (40 from 120 DPI on). A group's
 // child window takes the group's width and a given height; children of the pane are made hidden and shown when they are
-// placed. While redrawing is off (SetRedraw), groups come and go without being laid out; all of it is made up for when it
-// is on again.
+// placed; those that are out of sight sleep (platform/qt/Sleep.h). While redrawing is off (SetRedraw), groups come and
+// go without being laid out; all of it is made up for when it is on again.
 class CMFCTasksPane : public CDockablePane
 {
     DECLARE_DYNAMIC(CMFCTasksPane)

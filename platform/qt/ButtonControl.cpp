@@ -1,5 +1,6 @@
 #include "platform/qt/Controls.h"
 #include "platform/qt/Gdi.h"
+#include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 
 #include "platform/qt/ButtonControl.h"
@@ -15,22 +16,23 @@ class ButtonBehaviour final : public Behaviour
 public:
     void setText(HWND window, const QString& text) override
     {
-        auto* button = static_cast<QAbstractButton*>(window->widget);
+        auto* button = static_cast<QAbstractButton*>(window->widget());
         button->setText(text);
         button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
     }
     bool message(HWND window, UINT message, WPARAM wParam, LPARAM, LRESULT& result) override
     {
-        auto* button = static_cast<QAbstractButton*>(window->widget);
+        // Asked for where it is needed alone: of an unmade control it would be made.
+        const auto button = [window] { return static_cast<QAbstractButton*>(window->widget()); };
         switch (message) {
         case BM_CLICK:
-            button->click();
+            button()->click();
             return true;
         case BM_GETCHECK:
-            result = button->isChecked() ? BST_CHECKED : BST_UNCHECKED;
+            result = button()->isChecked() ? BST_CHECKED : BST_UNCHECKED;
             return true;
         case BM_SETCHECK:
-            button->setChecked(wParam != BST_UNCHECKED);
+            button()->setChecked(wParam != BST_UNCHECKED);
             return true;
         default:
             return false;
@@ -62,11 +64,16 @@ protected:
 class GroupBoxBehaviour final : public Behaviour
 {
 public:
-    void setText(HWND window, const QString& text) override { static_cast<QGroupBox*>(window->widget)->setTitle(text); }
+    void setText(HWND window, const QString& text) override
+    {
+        static_cast<QGroupBox*>(window->widget())->setTitle(text);
+    }
 };
 
 void restyle(QWidget* widget)
 {
+    if (!widget->testAttribute(Qt::WA_WState_Polished))
+        return; // it is styled when it comes into view
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
     renewFonts(widget);
@@ -92,7 +99,25 @@ QString brokenAtWords(const QString& text, const QFontMetrics& metrics, int widt
 
 QPushButton* pushButton(HWND window)
 {
-    return isLive(window) ? qobject_cast<QPushButton*>(window->widget) : nullptr;
+    return isLive(window) ? qobject_cast<QPushButton*>(window->widget()) : nullptr;
+}
+
+// Now, or when the button's widget is made. Nothing for other windows.
+void changePushButton(HWND window, Drawn what, std::function<void(QPushButton&)> change)
+{
+    if (!isLive(window))
+        return;
+    whenMade(window, what, [change = std::move(change)](QWidget& widget) {
+        if (auto* button = qobject_cast<QPushButton*>(&widget))
+            change(*button);
+    });
+}
+
+void connectButton(QAbstractButton& button, HWND window, DWORD style)
+{
+    if ((style & BS_TYPEMASK) == BS_DEFPUSHBUTTON)
+        button.setProperty("primary", true);
+    QObject::connect(&button, &QAbstractButton::clicked, window, [window] { sendCommand(window, BN_CLICKED); });
 }
 } // namespace
 
@@ -137,28 +162,45 @@ HWND makeButton(const CREATESTRUCTW& create, QWidget* parent)
         button = new QRadioButton(parent);
     else
         button = new PushButton(parent);
-    HWND window = attachHandle(button, L"Button", std::make_unique<ButtonBehaviour>());
-    if (type == BS_DEFPUSHBUTTON)
-        button->setProperty("primary", true);
-    QObject::connect(button, &QAbstractButton::clicked, window, [window] { sendCommand(window, BN_CLICKED); });
+    HWND window = attachHandle(button, L"Button", buttonBehaviour());
+    connectButton(*button, window, static_cast<DWORD>(create.style));
     return window;
 }
 
-void setButtonPicture(HWND window, const QPixmap& picture)
+bool isPushButtonStyle(DWORD style)
 {
-    if (QPushButton* button = pushButton(window)) {
-        button->setIcon(picture);
-        button->setIconSize(picture.size());
-    }
+    const DWORD type = style & BS_TYPEMASK;
+    return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+}
+
+QWidget* makePushButton(HWND control, QWidget* parent)
+{
+    auto* button = new PushButton(parent);
+    connectButton(*button, control, control->style);
+    return button;
+}
+
+std::unique_ptr<Behaviour> buttonBehaviour()
+{
+    return std::make_unique<ButtonBehaviour>();
+}
+
+void setButtonPicture(HWND window, const QImage& picture)
+{
+    changePushButton(window, Drawn::Picture, [picture](QPushButton& button) {
+        button.setIcon(QPixmap::fromImage(picture));
+        button.setIconSize(picture.size());
+    });
 }
 
 void setButtonFlat(HWND window, bool flat)
 {
-    QPushButton* button = pushButton(window);
-    if (!button || button->property("flatPicture").toBool() == flat)
-        return; // styling anew is dear
-    button->setProperty("flatPicture", flat);
-    restyle(button);
+    changePushButton(window, Drawn::Flat, [flat](QPushButton& button) {
+        if (button.property("flatPicture").toBool() == flat)
+            return; // styling anew is dear
+        button.setProperty("flatPicture", flat);
+        restyle(&button);
+    });
 }
 
 void setButtonColours(HWND window, COLORREF face, COLORREF text)

@@ -9,6 +9,7 @@
 #include "platform/qt/RibbonWidget.h"
 #include "platform/qt/StaticControl.h"
 #include "platform/qt/TasksWidget.h"
+#include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 
 #include <QtWidgets>
@@ -53,28 +54,34 @@ HWND makeControl(const CREATESTRUCTW& create, HWND parent)
             window = each.make(create, host);
     if (!window)
         window = makePlain(create, host);
-    // Only controls that are reached by the Tab key take part in the chain.
-    if (!(create.style & static_cast<LONG>(WS_TABSTOP)) && window->widget->focusPolicy() == Qt::StrongFocus)
-        window->widget->setFocusPolicy(Qt::ClickFocus);
+    limitFocus(*window->widget(), static_cast<DWORD>(create.style));
     return window;
+}
+
+void limitFocus(QWidget& widget, DWORD style)
+{
+    if (!(style & WS_TABSTOP) && widget.focusPolicy() == Qt::StrongFocus)
+        widget.setFocusPolicy(Qt::ClickFocus);
 }
 
 void setToolTip(HWND window, const std::wstring& text)
 {
     if (!isLive(window))
         return;
-    window->widget->setToolTip(QString::fromStdWString(text));
-    window->widget->setAccessibleDescription(QString::fromStdWString(text));
+    whenMade(window, Drawn::ToolTip, [tip = QString::fromStdWString(text)](QWidget& widget) {
+        widget.setToolTip(tip);
+        widget.setAccessibleDescription(tip);
+    });
 }
 
 std::wstring toolTip(HWND window)
 {
-    return isLive(window) ? window->widget->toolTip().toStdWString() : L"";
+    return isLive(window) ? window->widget()->toolTip().toStdWString() : L"";
 }
 
 void setHandCursor(HWND window)
 {
     if (isLive(window))
-        window->widget->setCursor(Qt::PointingHandCursor);
+        window->widget()->setCursor(Qt::PointingHandCursor);
 }
 } // namespace orvplatform

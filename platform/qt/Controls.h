@@ -3,16 +3,18 @@
 
 #include "winuser.h"
 
-#include <QPixmap>
+#include <QImage>
 #include <QString>
 
 namespace orvplatform
 {
 // Makes the window of a class; names are compared without case.
 HWND makeControl(const CREATESTRUCTW& create, HWND parent);
+// Only controls that are reached by the Tab key take part in the chain.
+void limitFocus(QWidget& widget, DWORD style);
 
 // A button's picture before its text. A flat one has no frame until the pointer is over it.
-void setButtonPicture(HWND button, const QPixmap& picture);
+void setButtonPicture(HWND button, const QImage& picture);
 void setButtonFlat(HWND button, bool flat);
 void setButtonColours(HWND button, COLORREF face, COLORREF text); // CLR_DEFAULT: the look's own
 void setDefaultButton(HWND button, bool isDefault);

@@ -4,10 +4,14 @@
 #include "platform/qt/Controls.h"
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Native.h"
+#include "platform/qt/TasksWidget.h"
+#include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 #include "winbase.h"
 
 #include <QtWidgets>
+
+#include <algorithm>
 
 namespace orvplatform
 {
@@ -37,7 +41,7 @@ std::wstring withoutMarks(const std::wstring& text)
     return result;
 }
 
-void createItem(HWND dialog, const DialogItem& item)
+void createItem(HWND dialog, const DialogItem& item, bool late)
 {
     const QRect place = pixels(dialog->baseUnits, item.x, item.y, item.width, item.height);
     const bool label = wcscasecmp(item.className.c_str(), L"Static") == 0 && !(item.style & SS_NOPREFIX);
@@ -54,7 +58,7 @@ void createItem(HWND dialog, const DialogItem& item)
                                text.c_str(),
                                item.className.c_str(),
                                item.exStyle};
-    HWND control = createWindow(create, {});
+    HWND control = late ? makeUnmadeControl(create, dialog) : createWindow(create, {});
     if (!control)
         return;
     applyFont(control, dialog->font);
@@ -88,7 +92,7 @@ QWidget* ownerOf(HWND parent)
         CWnd* main = AfxGetMainWnd();
         parent = main ? main->m_hWnd : nullptr;
     }
-    return isLive(parent) ? parent->widget->window() : nullptr;
+    return isLive(parent) ? parent->widget()->window() : nullptr;
 }
 
 HWND createDialogWindow(const DialogTemplate& source, HWND parent, bool child, const std::function<void(HWND)>& attach)
@@ -138,8 +142,16 @@ HWND createDialogWindow(const DialogTemplate& source, HWND parent, bool child, c
         ::DestroyWindow(window);
         return nullptr;
     }
+    // In a list most dialogs are out of sight.
+    const bool late = child && isLive(parent) && parent->className == tasksPaneClass &&
+                      std::all_of(source.items.begin(), source.items.end(), [](const DialogItem& item) {
+                          return canBeUnmade(item.className.c_str(), item.style);
+                      });
     for (const DialogItem& item : source.items)
-        createItem(window, item);
+        createItem(window, item, late);
+    // Nor need one be styled before it is shown.
+    if (late)
+        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
     reportSize(window);
     return window;
 }
@@ -154,7 +166,7 @@ void focusFirstControl(HWND dialog)
 {
     if (!isLive(dialog))
         return;
-    for (QWidget* child : dialog->widget->findChildren<QWidget*>()) {
+    for (QWidget* child : dialog->widget()->findChildren<QWidget*>()) {
         HWND control = existingHandle(child);
         if (control && (control->style & WS_TABSTOP) && child->isEnabled() && !child->isHidden()) {
             child->setFocus(Qt::TabFocusReason);
@@ -167,7 +179,7 @@ void presentModal(HWND window)
 {
     if (!isLive(window))
         return;
-    QWidget& widget = *window->widget;
+    QWidget& widget = *window->widget();
     widget.setWindowModality(Qt::ApplicationModal);
     centre(widget);
     widget.show();

@@ -72,7 +72,7 @@ public:
     }
 
 protected:
-    static Widget* widgetOf(HWND window) { return static_cast<Widget*>(window->widget); }
+    static Widget* widgetOf(HWND window) { return static_cast<Widget*>(window->widget()); }
 
     bool ownMessage(Widget* edit, UINT message, WPARAM wParam)
     {
@@ -164,7 +164,7 @@ HWND makeEdit(const CREATESTRUCTW& create, QWidget* parent)
 
 void setValidCharacters(HWND window, const std::wstring& characters)
 {
-    auto* edit = isLive(window) ? qobject_cast<QLineEdit*>(window->widget) : nullptr;
+    auto* edit = isLive(window) ? qobject_cast<QLineEdit*>(window->widget()) : nullptr;
     if (!edit)
         return;
     delete edit->validator();

@@ -32,8 +32,21 @@ std::unordered_set<void*>& icons()
 
 QFont dialogFont(const QString& face, int points, bool bold, bool italic)
 {
-    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    const QFont system = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     const int pixels = qRound(points * logicalDpi() / 72.0);
+    // A list asks for the same one thousands of times.
+    static struct {
+        QFont system;
+        QString face;
+        int pixels = 0;
+        bool bold = false;
+        bool italic = false;
+        QFont font;
+    } last;
+    if (last.pixels == pixels && last.bold == bold && last.italic == italic && last.face == face &&
+        last.system == system)
+        return last.font;
+    QFont font = system;
     const bool standIn = face.startsWith(QLatin1String("MS Shell Dlg"), Qt::CaseInsensitive);
     if (!standIn)
         font.setFamily(face);
@@ -43,25 +56,30 @@ QFont dialogFont(const QString& face, int points, bool bold, bool italic)
     // Templates are drawn for a font whose lines are 1.2 times as high as its letters' size.
     if (standIn && QFontMetrics(font).height() > qCeil(pixels * 1.2))
         font.setFamily(QStringLiteral("DejaVu Sans"));
+    last = {system, face, pixels, bold, italic, font};
     return font;
 }
 
 HFONT sharedFont(const QFont& font)
 {
-    static std::unordered_map<std::string, std::unique_ptr<HFONT__>> made;
-    std::unique_ptr<HFONT__>& handle = made[font.toString().toStdString()];
+    static QHash<QFont, HFONT> made; // as long as the process
+    HFONT& handle = made[font];
     if (!handle) {
-        handle = std::make_unique<HFONT__>(HFONT__{font, true});
-        fonts().insert(handle.get());
+        handle = new HFONT__{font, true};
+        fonts().insert(handle);
     }
-    return handle.get();
+    return handle;
 }
 
 SIZE baseUnits(const QFont& font)
 {
+    // Each dialog asks for them, and a list makes thousands.
+    static QHash<QFont, SIZE> measured;
+    if (const auto known = measured.constFind(font); known != measured.constEnd())
+        return *known;
     const QFontMetrics metrics(font);
     const int width = metrics.horizontalAdvance(QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"));
-    return {(width / 26 + 1) / 2, metrics.height()};
+    return *measured.insert(font, {(width / 26 + 1) / 2, metrics.height()});
 }
 
 void applyFont(HWND window, HFONT font)
@@ -69,13 +87,14 @@ void applyFont(HWND window, HFONT font)
     if (!isLive(window) || !fonts().contains(font))
         return;
     window->font = font;
-    window->widget->setFont(font->font);
+    if (!window->unmade)
+        window->widget()->setFont(font->font);
 }
 
 void renewFont(HWND window)
 {
     if (isLive(window) && fonts().contains(window->font))
-        window->widget->setFont(window->font->font);
+        window->widget()->setFont(window->font->font);
 }
 
 void renewFonts(QWidget* root)

@@ -18,12 +18,12 @@ constexpr Key keys[] = {{Qt::Key_Return, VK_RETURN}, {Qt::Key_Enter, VK_RETURN},
 
 bool isPushButton(HWND window)
 {
-    return qobject_cast<QPushButton*>(window->widget) != nullptr;
+    return qobject_cast<QPushButton*>(window->widget()) != nullptr;
 }
 
 HWND defaultButton(HWND dialog)
 {
-    for (QWidget* child : dialog->widget->findChildren<QPushButton*>()) {
+    for (QWidget* child : dialog->widget()->findChildren<QPushButton*>()) {
         HWND button = existingHandle(child);
         if (button && (button->style & BS_TYPEMASK) == BS_DEFPUSHBUTTON && nearestDialog(button) == dialog)
             return button;
@@ -35,12 +35,12 @@ HWND defaultButton(HWND dialog)
 HWND outerDialog(HWND dialog)
 {
     HWND outer = nearestDialog(GetParent(dialog));
-    return (dialog->style & WS_CHILD) && outer && !dialog->widget->isWindow() ? outerDialog(outer) : dialog;
+    return (dialog->style & WS_CHILD) && outer && !dialog->widget()->isWindow() ? outerDialog(outer) : dialog;
 }
 
 bool press(HWND button)
 {
-    auto* widget = qobject_cast<QAbstractButton*>(button->widget);
+    auto* widget = qobject_cast<QAbstractButton*>(button->widget());
     if (widget && widget->isEnabled() && !widget->isHidden())
         widget->click();
     return true;
@@ -85,11 +85,11 @@ bool navigate(HWND focus, QKeyEvent* event)
     if (key != VK_RETURN)
         return false;
     // A multi-line edit takes Enter for itself only when it asks for it; with Ctrl or Shift it always breaks the line.
-    const bool multiLine = qobject_cast<QPlainTextEdit*>(focus->widget) != nullptr;
+    const bool multiLine = qobject_cast<QPlainTextEdit*>(focus->widget()) != nullptr;
     if (multiLine && (focus->style & ES_WANTRETURN))
         return false;
     if (multiLine && (event->modifiers() & (Qt::ControlModifier | Qt::ShiftModifier))) {
-        static_cast<QPlainTextEdit*>(focus->widget)->insertPlainText(QStringLiteral("\n"));
+        static_cast<QPlainTextEdit*>(focus->widget())->insertPlainText(QStringLiteral("\n"));
         return true;
     }
     if (isPushButton(focus))

@@ -19,7 +19,7 @@ public:
     void setText(HWND window, const QString& text) override
     {
         written = text;
-        show(*static_cast<QLabel*>(window->widget));
+        show(*static_cast<QLabel*>(window->widget()));
     }
 
     // The theme's colours stand within the shown text.
@@ -99,13 +99,13 @@ class WebLink final : public Behaviour
 public:
     void setText(HWND window, const QString& text) override
     {
-        static_cast<QPushButton*>(window->widget)->setText(text);
+        static_cast<QPushButton*>(window->widget())->setText(text);
     }
     bool message(HWND window, UINT message, WPARAM, LPARAM, LRESULT&) override
     {
         if (message != BM_CLICK)
             return false;
-        static_cast<QPushButton*>(window->widget)->click();
+        static_cast<QPushButton*>(window->widget())->click();
         return true;
     }
     void click(HWND window)

@@ -20,7 +20,7 @@ QPointer<QWidget>& mainWidget()
 
 QWidget* widgetOf(HWND window)
 {
-    return isLive(window) ? window->widget : nullptr;
+    return isLive(window) ? window->widget() : nullptr;
 }
 
 HWND handleOf(QWidget* widget)

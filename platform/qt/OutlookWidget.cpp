@@ -31,7 +31,7 @@ class FrameBehaviour final : public Behaviour
 public:
     void setText(HWND window, const QString& text) override
     {
-        auto* frame = static_cast<PaneFrame*>(window->widget);
+        auto* frame = static_cast<PaneFrame*>(window->widget());
         frame->setWindowTitle(text);
         const int index = frame->tabs.indexOf(frame);
         frame->tabs.bar.setTabText(index, text);
@@ -44,7 +44,7 @@ public:
     {
         if (message != WM_CLOSE)
             return false;
-        auto* frame = static_cast<PaneFrame*>(window->widget);
+        auto* frame = static_cast<PaneFrame*>(window->widget());
         frame->tabs.setFloating(frame->tabs.indexOf(frame), false);
         return true;
     }
@@ -52,7 +52,7 @@ public:
 
 PaneTabs* tabsWidget(HWND tabs)
 {
-    return isLive(tabs) ? dynamic_cast<PaneTabs*>(tabs->widget) : nullptr;
+    return isLive(tabs) ? dynamic_cast<PaneTabs*>(tabs->widget()) : nullptr;
 }
 } // namespace
 
@@ -86,7 +86,7 @@ HWND addPane(HWND tabs, HWND control, const std::wstring& title, bool canFloat, 
     frame->canFloat = canFloat;
     frame->canFold = canFold;
     frame->canResize = canResize;
-    frame->control = control->widget;
+    frame->control = control->widget();
     HWND window = attachHandle(frame, L"OrvPaneFrame", std::make_unique<FrameBehaviour>());
     window->style = WS_CHILD | WS_VISIBLE;
     auto* opener = new QToolButton;
@@ -95,7 +95,7 @@ HWND addPane(HWND tabs, HWND control, const std::wstring& title, bool canFloat, 
     widget->panes.push_back({frame, page, note, opener});
     widget->stack.addWidget(page);
     SetParent(control, window);
-    control->widget->show();
+    control->widget()->show();
     {
         // The first tab becomes the current one by being added; that is told once the pane is complete.
         const QSignalBlocker quiet(widget->bar);

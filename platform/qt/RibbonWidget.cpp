@@ -290,7 +290,7 @@ private:
 
 RibbonWidget* ribbonWidget(HWND ribbon)
 {
-    return isLive(ribbon) ? dynamic_cast<RibbonWidget*>(ribbon->widget) : nullptr;
+    return isLive(ribbon) ? dynamic_cast<RibbonWidget*>(ribbon->widget()) : nullptr;
 }
 } // namespace
 

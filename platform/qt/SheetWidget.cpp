@@ -89,7 +89,7 @@ private:
 
 SheetWidget* sheetWidget(HWND sheet)
 {
-    return isLive(sheet) ? dynamic_cast<SheetWidget*>(sheet->widget) : nullptr;
+    return isLive(sheet) ? dynamic_cast<SheetWidget*>(sheet->widget()) : nullptr;
 }
 } // namespace
 

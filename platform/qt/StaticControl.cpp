@@ -78,17 +78,14 @@ public:
     void setText(HWND window, const QString& text) override
     {
         if (!isPicture(window->style))
-            static_cast<Label*>(window->widget)->setText(QString(text).remove(QLatin1Char('\r')));
+            static_cast<Label*>(window->widget())->setText(QString(text).remove(QLatin1Char('\r')));
     }
     bool message(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override
     {
-        auto* label = static_cast<Label*>(window->widget);
         if (message == STM_SETIMAGE && wParam == IMAGE_BITMAP) {
             result = reinterpret_cast<LRESULT>(std::exchange(bitmap, reinterpret_cast<HBITMAP>(lParam)));
-            label->bitmap = bitmap;
-            label->isReported = false;
-            label->picture = QImage();
-            label->update();
+            showsIcon = false;
+            widgetMade(window);
             return true;
         }
         if (message == STM_GETIMAGE) {
@@ -98,8 +95,8 @@ public:
         if (message == STM_SETICON || (message == STM_SETIMAGE && wParam == IMAGE_ICON)) {
             const LPARAM handle = message == STM_SETICON ? static_cast<LPARAM>(wParam) : lParam;
             result = reinterpret_cast<LRESULT>(std::exchange(icon, reinterpret_cast<HICON>(handle)));
-            label->picture = imageOf(icon);
-            label->update();
+            showsIcon = true;
+            widgetMade(window);
             return true;
         }
         if (message == WM_LBUTTONUP && (window->style & SS_NOTIFY)) {
@@ -108,10 +105,22 @@ public:
         }
         return false;
     }
+    // The picture that was set last.
+    void widgetMade(HWND window) override
+    {
+        auto* label = static_cast<Label*>(window->madeWidget());
+        if (!label)
+            return;
+        label->bitmap = bitmap;
+        label->isReported = false;
+        label->picture = showsIcon ? imageOf(icon) : QImage();
+        label->update();
+    }
 
 private:
     HBITMAP bitmap = nullptr;
     HICON icon = nullptr;
+    bool showsIcon = false;
 };
 } // namespace
 
@@ -158,9 +167,10 @@ QFont fittedFont(const QLabel& label)
     return fitted;
 }
 
-HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent)
+namespace
 {
-    const auto style = static_cast<DWORD>(create.style);
+Label* labelOfStyle(DWORD style, QWidget* parent)
+{
     auto* label = new Label(parent);
     label->setTextFormat(Qt::PlainText);
     const DWORD type = style & SS_TYPEMASK;
@@ -173,6 +183,22 @@ HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent)
         label->setFrameStyle(QFrame::StyledPanel);
     // Clicks on a label go to the window behind it unless it asks for them.
     label->setAttribute(Qt::WA_TransparentForMouseEvents, !(style & SS_NOTIFY));
-    return attachHandle(label, L"Static", std::make_unique<StaticBehaviour>());
+    return label;
+}
+} // namespace
+
+QWidget* makeLabel(HWND control, QWidget* parent)
+{
+    return labelOfStyle(control->style, parent);
+}
+
+std::unique_ptr<Behaviour> staticBehaviour()
+{
+    return std::make_unique<StaticBehaviour>();
+}
+
+HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent)
+{
+    return attachHandle(labelOfStyle(static_cast<DWORD>(create.style), parent), L"Static", staticBehaviour());
 }
 } // namespace orvplatform

@@ -1,5 +1,5 @@
 #pragma once
-#include "winuser.h"
+#include "platform/qt/Window.h"
 
 #include <QFont>
 
@@ -13,6 +13,9 @@ namespace orvplatform
 {
 // Labels and pictures, by style.
 HWND makeStatic(const CREATESTRUCTW& create, QWidget* parent);
+// The two parts of it, for a control whose widget is made later than its handle.
+QWidget* makeLabel(HWND control, QWidget* parent);
+std::unique_ptr<Behaviour> staticBehaviour();
 
 // Where a label draws its text: all of its place that lies in its window, but what a shown button covers at its right
 // end.

@@ -5,11 +5,15 @@
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
+#include "platform/qt/Sleep.h"
+#include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 
 #include <QtWidgets>
 
 #include <algorithm>
+#include <unordered_set>
+#include <utility>
 
 namespace orvplatform
 {
@@ -22,6 +26,13 @@ QRect rectOf(const RECT& rect)
 CRect rectOf(const QRect& rect)
 {
     return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
+// The first group that doesn't end above y.
+TaskGroups::const_iterator firstReaching(const TaskGroups& groups, int y)
+{
+    return std::partition_point(groups.begin(), groups.end(),
+                                [y](const auto& group) { return group->m_rect.bottom <= y; });
 }
 
 // The scrolled column. It paints the cards; the groups' windows are its children.
@@ -43,7 +54,7 @@ protected:
             return;
         // From top to bottom, so those in sight stand together.
         const QRect dirty = event->rect();
-        for (auto group = firstReaching(dirty.top()); group != groups->end(); ++group) {
+        for (auto group = firstReaching(*groups, dirty.top()); group != groups->end(); ++group) {
             if ((*group)->m_rect.top > dirty.bottom())
                 break;
             paintCard(painter, **group);
@@ -76,16 +87,10 @@ private:
     {
         if (!groups)
             return nullptr;
-        const auto group = firstReaching(at.y());
+        const auto group = firstReaching(*groups, at.y());
         const bool hit =
             group != groups->end() && rectOf((*group)->m_rect).contains(at) && at.y() < (*group)->m_rectGroup.top;
         return hit ? group->get() : nullptr;
-    }
-    // The first group that doesn't end above y.
-    TaskGroups::const_iterator firstReaching(int y) const
-    {
-        return std::partition_point(groups->begin(), groups->end(),
-                                    [y](const auto& group) { return group->m_rect.bottom <= y; });
     }
 
     void paintCard(QPainter& painter, const CMFCTasksPaneTaskGroup& group)
@@ -135,14 +140,34 @@ public:
         scroll.viewport()->setAutoFillBackground(false);
         column->setAutoFillBackground(false);
         column->relayout = [this] { layoutGroups(); };
+        connect(scroll.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { wakeInSight(); });
+        qApp->installEventFilter(this);
     }
 
     void layoutGroups();
+    void wakeInSight();
+    void wakeNow(HWND window);
 
     QScrollArea scroll;
     Column* column;
 
 protected:
+    // The Tab key passes over what is hidden, so what sleeps where it goes next wakes first. Where it goes comes into
+    // sight, also from outside.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            if (watched->isWidgetType() && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab))
+                wakeNextStop(key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier));
+        } else if (event->type() == QEvent::FocusIn && watched->isWidgetType()) {
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            auto* focus = static_cast<QWidget*>(watched);
+            if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && column->isAncestorOf(focus))
+                scroll.ensureWidgetVisible(focus);
+        }
+        return false;
+    }
     void resizeEvent(QResizeEvent*) override
     {
         const int strip = captionHeight();
@@ -160,7 +185,11 @@ protected:
 
 private:
     static int captionHeight() { return logicalDpi() >= 120 ? 40 : 20; }
-    int layoutWithin(int width);
+    void layoutWithin(int width);
+    void wakeNextStop(bool forwards);
+
+    std::vector<HWND> awake; // of the groups' windows; some may be gone
+    bool layingOut = false;
 };
 
 // The height that a window was given, and more where its lowest button would be cut: heights are set for a few display
@@ -168,8 +197,13 @@ private:
 int heightOf(const CMFCTasksPaneTask& task)
 {
     int height = task.m_nWindowHeight;
-    if (isLive(task.m_hwndTask))
-        for (const auto* button : task.m_hwndTask->widget->findChildren<QPushButton*>(Qt::FindDirectChildrenOnly))
+    if (!isLive(task.m_hwndTask))
+        return height;
+    for (HWND control : task.m_hwndTask->unmadeControls)
+        if (controlKind(control) == ControlKind::Button)
+            height = std::max(height, placeInParent(control).bottom() + 1);
+    for (const QObject* child : task.m_hwndTask->widget()->children())
+        if (const auto* button = qobject_cast<const QPushButton*>(child))
             height = std::max(height, button->geometry().bottom() + 1);
     return height;
 }
@@ -182,7 +216,22 @@ int titleHeight()
     return std::max(measures::cardTitle, QFontMetrics(font).height() + 2 * measures::grid);
 }
 
-int TasksWidget::layoutWithin(int width)
+int totalHeight(const TaskGroups& groups)
+{
+    const int title = titleHeight();
+    int height = measures::gap;
+    for (const auto& group : groups) {
+        height += (group->m_strName.IsEmpty() ? measures::gap : title) + measures::gap;
+        if (group->m_bIsCollapsed)
+            continue;
+        height += measures::grid;
+        for (const CMFCTasksPaneTask& task : group->m_lstTasks)
+            height += heightOf(task);
+    }
+    return height;
+}
+
+void TasksWidget::layoutWithin(int width)
 {
     const int title = titleHeight();
     const int left = measures::gap;
@@ -208,7 +257,6 @@ int TasksWidget::layoutWithin(int width)
         group->m_rect = rectOf(QRect(left, top, inner, y - top));
         y += measures::gap;
     }
-    return y;
 }
 
 void TasksWidget::layoutGroups()
@@ -216,19 +264,95 @@ void TasksWidget::layoutGroups()
     if (!column->groups)
         return;
     // The bar takes its width from the column only when it is needed.
-    int total = layoutWithin(scroll.width());
+    const int total = totalHeight(*column->groups);
     int columnWidth = scroll.width();
-    if (total > scroll.height()) {
+    if (total > scroll.height())
         columnWidth -= scroll.verticalScrollBar()->sizeHint().width();
-        total = layoutWithin(columnWidth);
-    }
+    const bool outer = std::exchange(layingOut, true);
+    layoutWithin(columnWidth);
     column->resize(std::max(columnWidth, 0), total);
+    layingOut = outer;
+    wakeInSight();
     column->update();
+}
+
+void TasksWidget::wakeInSight()
+{
+    if (!column->groups || layingOut)
+        return;
+    // A page more on each side, so that a small step finds everything ready.
+    const int page = scroll.height(); // the viewport itself hears of its size only when it is shown
+    const int top = -column->y() - page;
+    const int bottom = top + 3 * page;
+    std::unordered_set<HWND> inSight;
+    for (auto group = firstReaching(*column->groups, top); group != column->groups->end(); ++group) {
+        if ((*group)->m_rect.top > bottom)
+            break;
+        for (const CMFCTasksPaneTask& task : (*group)->m_lstTasks)
+            inSight.insert(task.m_hwndTask);
+    }
+    const QWidget* const focus = window()->focusWidget();
+    const auto isNeeded = [&](HWND each) {
+        return !isLive(each) || inSight.contains(each) || (focus && each->widget()->isAncestorOf(focus));
+    };
+    const auto leaving = std::partition(awake.begin(), awake.end(), isNeeded);
+    const std::vector<HWND> asleep(leaving, awake.end());
+    awake.erase(leaving, awake.end());
+    for (HWND each : asleep)
+        putToSleep(each);
+    for (HWND each : inSight)
+        wakeNow(each);
+}
+
+void TasksWidget::wakeNow(HWND window)
+{
+    wake(window);
+    if (isLive(window) && !window->asleep && std::find(awake.begin(), awake.end(), window) == awake.end())
+        awake.push_back(window);
+}
+
+namespace
+{
+bool takesTab(const QWidget& widget, const QWidget& within)
+{
+    return widget.focusPolicy() & Qt::TabFocus && widget.isEnabled() && widget.isVisibleTo(&within);
+}
+
+// Without making a control: the key may pass over thousands.
+bool hasTabStop(HWND dialog)
+{
+    const auto isStop = [](HWND control) {
+        return controlKind(control) == ControlKind::Button && control->style & WS_TABSTOP && !isHidden(control) &&
+               !isDisabled(control);
+    };
+    if (std::any_of(dialog->unmadeControls.begin(), dialog->unmadeControls.end(), isStop))
+        return true;
+    const QList<QWidget*> made = dialog->widget()->findChildren<QWidget*>();
+    return std::any_of(made.begin(), made.end(),
+                       [dialog](const QWidget* each) { return takesTab(*each, *dialog->widget()); });
+}
+} // namespace
+
+void TasksWidget::wakeNextStop(bool forwards)
+{
+    const QWidget* const focus = QApplication::focusWidget();
+    if (!column->groups || !isVisible() || !focus || focus->window() != window())
+        return;
+    const auto following = [forwards](const QWidget* widget) {
+        return forwards ? widget->nextInFocusChain() : widget->previousInFocusChain();
+    };
+    for (QWidget* at = following(focus); at != focus && !takesTab(*at, *window()); at = following(at)) {
+        HWND each = at->parentWidget() == column ? existingHandle(at) : nullptr;
+        if (each && each->asleep && hasTabStop(each)) {
+            wakeNow(each);
+            return;
+        }
+    }
 }
 
 TasksWidget* tasksWidget(HWND pane)
 {
-    return isLive(pane) ? dynamic_cast<TasksWidget*>(pane->widget) : nullptr;
+    return isLive(pane) ? dynamic_cast<TasksWidget*>(pane->widget()) : nullptr;
 }
 } // namespace
 
@@ -253,5 +377,20 @@ void layoutTasks(HWND pane)
 {
     if (TasksWidget* widget = tasksWidget(pane))
         widget->layoutGroups();
+}
+
+void wakeTasks(HWND pane)
+{
+    TasksWidget* widget = tasksWidget(pane);
+    if (widget && !widget->testAttribute(Qt::WA_ForceUpdatesDisabled))
+        widget->wakeInSight();
+}
+
+void scrollTo(HWND pane, HWND window, HWND part)
+{
+    if (TasksWidget* widget = tasksWidget(pane)) {
+        widget->wakeNow(window);
+        widget->scroll.ensureWidgetVisible(part->widget(), 0, 0);
+    }
 }
 } // namespace orvplatform

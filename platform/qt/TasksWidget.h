@@ -25,4 +25,8 @@ using TaskGroups = std::vector<std::unique_ptr<CMFCTasksPaneTaskGroup>>;
 void setTaskGroups(HWND pane, const TaskGroups* groups, bool collapsible);
 // Places the groups and their windows anew, and writes their rectangles into them.
 void layoutTasks(HWND pane);
+// Lets the groups' windows sleep and wake by what is in sight now; nothing while redrawing is off.
+void wakeTasks(HWND pane);
+// Wakes a window of the groups and brings a part of it, or all of it, into sight.
+void scrollTo(HWND pane, HWND window, HWND part);
 } // namespace orvplatform

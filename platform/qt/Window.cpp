@@ -5,6 +5,8 @@
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Keyboard.h"
 #include "platform/qt/Native.h"
+#include "platform/qt/Sleep.h"
+#include "platform/qt/UnmadeControl.h"
 
 #include <QHash>
 #include <QtWidgets>
@@ -34,14 +36,20 @@ void endTree(HWND window, bool withChildren = true)
         return;
     window->ending = true;
     deliver(window, WM_DESTROY, 0, 0);
-    if (window->widget && withChildren) {
-        for (QWidget* child : window->widget->findChildren<QWidget*>())
+    for (HWND control : std::vector<HWND>(window->unmadeControls))
+        if (isLive(control) && control->unmade)
+            endTree(control);
+    if (window->madeWidget() && withChildren) {
+        for (QWidget* child : window->madeWidget()->findChildren<QWidget*>())
             if (HWND handle = existingHandle(child))
                 endTree(handle);
     }
     deliver(window, WM_NCDESTROY, 0, 0);
     window->procedure = nullptr;
-    handles().remove(window->widget);
+    if (window->madeWidget())
+        handles().remove(window->madeWidget());
+    if (window->unmade)
+        std::erase(window->unmade->dialog->unmadeControls, window);
     liveWindows().remove(window);
     for (const auto& function : window->whenGone)
         function();
@@ -55,7 +63,7 @@ QString toQString(const wchar_t* text)
 
 void Behaviour::setText(HWND window, const QString& text)
 {
-    window->widget->setWindowTitle(text);
+    window->widget()->setWindowTitle(text);
 }
 QString Behaviour::text(HWND window)
 {
@@ -132,9 +140,9 @@ LRESULT deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool* d
 
 void reportSize(HWND window)
 {
-    if (!isLive(window) || window->reportedSize == window->widget->size())
+    const QSize size = isLive(window) ? placeInParent(window).size() : QSize();
+    if (!isLive(window) || window->reportedSize == size)
         return;
-    const QSize size = window->widget->size();
     window->reportedSize = size;
     deliver(window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(size.width(), size.height()));
 }
@@ -149,11 +157,33 @@ void sendCommand(HWND control, UINT code)
 using orvplatform::isLive;
 
 HWND__::HWND__(QWidget* shown, std::wstring name)
-    : QObject(shown), widget(shown), childHost(shown), className(std::move(name)), reportedSize(-1, -1)
+    : QObject(shown), childHost(shown), className(std::move(name)), reportedSize(-1, -1), shownWidget(shown)
 {
     orvplatform::handles().insert(shown, this);
     orvplatform::liveWindows().insert(this);
     shown->installEventFilter(this);
+}
+
+HWND__::HWND__(QWidget* owner, std::unique_ptr<orvplatform::UnmadeControl> control, std::wstring name)
+    : QObject(owner), childHost(nullptr), className(std::move(name)), unmade(std::move(control)), shownWidget(nullptr)
+{
+    orvplatform::liveWindows().insert(this);
+}
+
+QWidget* HWND__::widget()
+{
+    if (!shownWidget)
+        orvplatform::makeControls(unmade->dialog);
+    return shownWidget;
+}
+
+void HWND__::takeWidget(QWidget* made)
+{
+    shownWidget = made;
+    childHost = made;
+    setParent(made);
+    orvplatform::handles().insert(made, this);
+    made->installEventFilter(this);
 }
 
 HWND__::~HWND__()
@@ -164,7 +194,7 @@ HWND__::~HWND__()
 
 bool HWND__::eventFilter(QObject* watched, QEvent* event)
 {
-    return watched == widget && !foreign && !ending && translate(event);
+    return watched == shownWidget && !foreign && !ending && translate(event);
 }
 
 bool HWND__::translate(QEvent* event)
@@ -222,14 +252,17 @@ bool HWND__::translate(QEvent* event)
         orvplatform::deliver(this, WM_KILLFOCUS, 0, 0);
         break;
     case QEvent::ShowToParent:
+        orvplatform::makeControls(this);
         orvplatform::reportSize(this);
-        orvplatform::deliver(this, WM_SHOWWINDOW, TRUE, 0);
+        if (!turning)
+            orvplatform::deliver(this, WM_SHOWWINDOW, TRUE, 0);
         break;
     case QEvent::HideToParent:
-        orvplatform::deliver(this, WM_SHOWWINDOW, FALSE, 0);
+        if (!turning)
+            orvplatform::deliver(this, WM_SHOWWINDOW, FALSE, 0);
         break;
     case QEvent::EnabledChange:
-        orvplatform::deliver(this, WM_ENABLE, widget->isEnabled(), 0);
+        orvplatform::deliver(this, WM_ENABLE, shownWidget->isEnabled(), 0);
         break;
     case QEvent::Close:
         // The window's own handling decides; nothing closes by itself.
@@ -247,15 +280,17 @@ HWND orvplatform::createWindow(const CREATESTRUCTW& create, const std::function<
     HWND parent = isLive(create.hwndParent) ? create.hwndParent : nullptr;
     if ((create.style & static_cast<LONG>(WS_CHILD)) && !parent)
         return nullptr;
+    if (parent)
+        orvplatform::makeControls(parent); // the new one comes behind them
     HWND window = makeControl(create, parent);
     window->style = static_cast<DWORD>(create.style);
     window->exStyle = create.dwExStyle;
     window->id = static_cast<int>(reinterpret_cast<LONG_PTR>(create.hMenu));
-    window->widget->setGeometry(create.x, create.y, create.cx, create.cy);
-    window->widget->setEnabled(!(window->style & WS_DISABLED));
+    window->widget()->setGeometry(create.x, create.y, create.cx, create.cy);
+    window->widget()->setEnabled(!(window->style & WS_DISABLED));
     // Without a word of its own a child would come into view together with its parent.
     if (!(window->style & WS_VISIBLE))
-        window->widget->hide();
+        window->widget()->hide();
     if (attach)
         attach(window);
     SetWindowTextW(window, create.lpszName ? create.lpszName : L"");
@@ -272,7 +307,7 @@ HWND orvplatform::createWindow(const CREATESTRUCTW& create, const std::function<
     }
     reportSize(window);
     if (isLive(window) && (window->style & WS_VISIBLE))
-        window->widget->show();
+        window->widget()->show();
     return isLive(window) ? window : nullptr;
 }
 
@@ -288,8 +323,14 @@ BOOL DestroyWindow(HWND window)
 {
     if (!isLive(window) || window->ending)
         return FALSE;
-    QWidget* widget = window->widget;
-    widget->hide();
+    if (window->unmade) {
+        orvplatform::endTree(window);
+        window->setParent(nullptr);
+        window->deleteLater();
+        return TRUE;
+    }
+    orvplatform::setShown(window, false);
+    QWidget* widget = window->widget();
     orvplatform::endTree(window);
     // The widget may be in the middle of an event of its own, so it goes when the event loop is next free.
     widget->setParent(nullptr);
@@ -341,11 +382,12 @@ LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         ::DestroyWindow(window);
         return 0;
     case WM_SETREDRAW:
-        window->widget->setUpdatesEnabled(wParam != 0);
+        window->widget()->setUpdatesEnabled(wParam != 0);
         return 0;
     case WM_SETTEXT:
         window->text = orvplatform::toQString(reinterpret_cast<LPCWSTR>(lParam));
-        window->behaviour->setText(window, window->text);
+        if (!window->unmade)
+            window->behaviour->setText(window, window->text);
         return TRUE;
     case WM_GETTEXTLENGTH:
         return static_cast<LRESULT>(window->behaviour->text(window).toStdWString().size());
@@ -371,7 +413,7 @@ LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
         for (HICON each : window->icons)
             if (each)
                 icon.addPixmap(orvplatform::pixmapOf(each));
-        window->widget->setWindowIcon(icon);
+        window->widget()->setWindowIcon(icon);
         return reinterpret_cast<LRESULT>(earlier);
     }
     case WM_GETICON:

@@ -28,16 +28,24 @@ public:
     virtual QString text(HWND window); // as the user left it
     // True when the message is the class's own; the result is then set.
     virtual bool message(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    // The window's widget was made later than the window: it takes over what the class keeps for it.
+    virtual void widgetMade(HWND) {}
 };
+struct UnmadeControl;
 } // namespace orvplatform
 
 // Child object and event filter of its widget; so it ends with it at the latest.
 struct HWND__ final : public QObject {
     HWND__(QWidget* shown, std::wstring name);
+    // A control whose widget is made when something asks for it; `owner` is the widget of its dialog.
+    HWND__(QWidget* owner, std::unique_ptr<orvplatform::UnmadeControl> control, std::wstring name);
     ~HWND__() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    QWidget* widget;
+    QWidget* widget(); // never null; makes the widget of an unmade control, and its neighbours'
+    QWidget* madeWidget() const { return shownWidget; } // null while it is unmade
+    void takeWidget(QWidget* made);                     // an unmade control's
+
     QWidget* childHost; // parent of child windows' widgets: the widget itself or a part of it
     std::wstring className;
     QString text;
@@ -53,10 +61,16 @@ struct HWND__ final : public QObject {
     bool isDialog = false;
     bool foreign = false; // a widget of the program: its events are its own
     bool ending = false;  // WM_DESTROY is on its way or gone
+    bool placed = false;  // in a group of a tasks pane, which lets it sleep out of sight
+    bool asleep = false;  // on show as far as anybody can tell, its widget hidden; see Sleep.h
+    bool turning = false; // between the two: nobody is told that the widget shows or hides
+    std::unique_ptr<orvplatform::UnmadeControl> unmade; // see UnmadeControl.h
+    std::vector<HWND__*> unmadeControls;                // a dialog's, in its template's order
     std::vector<std::function<void()>> whenGone;
 
 private:
     bool translate(QEvent* event);
+    QWidget* shownWidget;
 };
 
 namespace orvplatform

@@ -1,6 +1,8 @@
 // Place, visibility, focus and texts of windows.
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Native.h"
+#include "platform/qt/Sleep.h"
+#include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 
 #include <QtWidgets>
@@ -29,11 +31,25 @@ HWND childWithId(const QWidget* parent, int id)
     }
     return nullptr;
 }
+
+void placeUnmade(HWND control, const QRect& place, UINT flags)
+{
+    QRect& kept = control->unmade->place;
+    if (!(flags & SWP_NOMOVE))
+        kept.moveTopLeft(place.topLeft());
+    if (!(flags & SWP_NOSIZE))
+        kept.setSize(place.size().expandedTo(QSize(0, 0)));
+    orvplatform::reportSize(control);
+    if (isLive(control) && flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW))
+        orvplatform::setShown(control, flags & SWP_SHOWWINDOW);
+}
 } // namespace
 
 HWND GetParent(HWND window)
 {
-    return isLive(window) ? orvplatform::nearestHandle(window->widget->parentWidget()) : nullptr;
+    if (!isLive(window))
+        return nullptr;
+    return window->unmade ? window->unmade->dialog : orvplatform::nearestHandle(window->widget()->parentWidget());
 }
 
 HWND GetAncestor(HWND window, UINT flags)
@@ -41,25 +57,33 @@ HWND GetAncestor(HWND window, UINT flags)
     if (!isLive(window))
         return nullptr;
     if (flags == GA_PARENT)
-        return window->widget->isWindow() ? nullptr : GetParent(window);
-    return orvplatform::handleOf(window->widget->window());
+        return window->widget()->isWindow() ? nullptr : GetParent(window);
+    return orvplatform::handleOf(window->widget()->window());
 }
 
 HWND SetParent(HWND window, HWND parent)
 {
     HWND earlier = GetParent(window);
     if (isLive(window) && isLive(parent)) {
-        const bool hidden = window->widget->isHidden();
-        window->widget->setParent(parent->childHost);
-        orvplatform::renewFonts(window->widget);
-        window->widget->setVisible(!hidden);
+        const bool hidden = orvplatform::isHidden(window);
+        window->placed = false; // another parent lets nothing sleep
+        window->asleep = false;
+        orvplatform::makeControls(window);
+        window->widget()->setParent(parent->childHost);
+        orvplatform::renewFonts(window->widget());
+        window->widget()->setVisible(!hidden);
     }
     return earlier;
 }
 
 HWND GetDlgItem(HWND dialog, int id)
 {
-    return isLive(dialog) ? childWithId(dialog->widget, id) : nullptr;
+    if (!isLive(dialog))
+        return nullptr;
+    for (HWND control : dialog->unmadeControls)
+        if (control->id == id)
+            return control;
+    return childWithId(dialog->widget(), id);
 }
 
 int GetDlgCtrlID(HWND window)
@@ -69,7 +93,10 @@ int GetDlgCtrlID(HWND window)
 
 BOOL IsChild(HWND parent, HWND window)
 {
-    return isLive(parent) && isLive(window) && parent->widget->isAncestorOf(window->widget);
+    if (!isLive(parent) || !isLive(window) || parent->unmade)
+        return FALSE;
+    HWND inner = window->unmade ? window->unmade->dialog : window;
+    return (inner == parent && inner != window) || parent->widget()->isAncestorOf(inner->widget());
 }
 
 HWND GetActiveWindow()
@@ -87,8 +114,10 @@ HWND GetFocus()
 HWND SetFocus(HWND window)
 {
     HWND earlier = GetFocus();
-    if (isLive(window))
-        window->widget->setFocus(Qt::OtherFocusReason);
+    if (isLive(window)) {
+        orvplatform::bringIntoSight(window);
+        window->widget()->setFocus(Qt::OtherFocusReason);
+    }
     return earlier;
 }
 
@@ -96,29 +125,38 @@ BOOL ShowWindow(HWND window, int command)
 {
     if (!isLive(window))
         return FALSE;
-    const bool visible = !window->widget->isHidden();
-    window->widget->setVisible(command != SW_HIDE);
+    const bool visible = !orvplatform::isHidden(window);
+    orvplatform::setShown(window, command != SW_HIDE);
     return visible;
 }
 
 BOOL IsWindowVisible(HWND window)
 {
-    return isLive(window) && window->widget->isVisible();
+    if (isLive(window) && window->madeWidget() && window->madeWidget()->isVisible())
+        return TRUE;
+    // What sleeps or stands in such a window is as visible as the pane: nobody is to tell that it sleeps.
+    for (HWND at = window; isLive(at) && !orvplatform::isHidden(at); at = GetParent(at))
+        if (at->asleep)
+            return IsWindowVisible(GetParent(at));
+    return FALSE;
 }
 
 BOOL EnableWindow(HWND window, BOOL enable)
 {
     if (!isLive(window))
         return FALSE;
-    const bool disabled = window->widget->testAttribute(Qt::WA_ForceDisabled);
-    window->widget->setEnabled(enable != FALSE);
+    const bool disabled = orvplatform::isDisabled(window);
+    if (!window->unmade)
+        window->widget()->setEnabled(enable != FALSE);
+    else if (std::exchange(window->unmade->isDisabled, enable == FALSE) != (enable == FALSE))
+        orvplatform::deliver(window, WM_ENABLE, static_cast<WPARAM>(enable), 0);
     return disabled;
 }
 
 BOOL IsWindowEnabled(HWND window)
 {
     // As documented, a window is enabled by its own state, whatever its parent's.
-    return isLive(window) && !window->widget->testAttribute(Qt::WA_ForceDisabled);
+    return isLive(window) && !orvplatform::isDisabled(window);
 }
 
 BOOL MoveWindow(HWND window, int x, int y, int width, int height, BOOL repaint)
@@ -130,7 +168,11 @@ BOOL SetWindowPos(HWND window, HWND, int x, int y, int width, int height, UINT f
 {
     if (!isLive(window))
         return FALSE;
-    QWidget& widget = *window->widget;
+    if (window->unmade && flags & SWP_NOZORDER) {
+        placeUnmade(window, {x, y, width, height}, flags);
+        return TRUE;
+    }
+    QWidget& widget = *window->widget();
     if (!(flags & SWP_NOMOVE))
         widget.move(x, y);
     if (!(flags & SWP_NOSIZE)) {
@@ -141,10 +183,8 @@ BOOL SetWindowPos(HWND window, HWND, int x, int y, int width, int height, UINT f
         // A hidden widget hears of its size only when it is shown; a window hears of it at once.
         orvplatform::reportSize(window);
     }
-    if (flags & SWP_SHOWWINDOW)
-        widget.show();
-    if (flags & SWP_HIDEWINDOW)
-        widget.hide();
+    if (flags & (SWP_SHOWWINDOW | SWP_HIDEWINDOW))
+        orvplatform::setShown(window, flags & SWP_SHOWWINDOW);
     if (!(flags & SWP_NOZORDER) && isLive(window))
         widget.raise();
     return TRUE;
@@ -154,7 +194,7 @@ BOOL GetClientRect(HWND window, LPRECT rect)
 {
     if (!isLive(window) || !rect)
         return FALSE;
-    *rect = rectOf(window->widget->rect());
+    *rect = rectOf(QRect(QPoint(), orvplatform::placeInParent(window).size()));
     return TRUE;
 }
 
@@ -162,7 +202,13 @@ BOOL GetWindowRect(HWND window, LPRECT rect)
 {
     if (!isLive(window) || !rect)
         return FALSE;
-    const QWidget& widget = *window->widget;
+    if (window->unmade) {
+        const QRect place = window->unmade->place;
+        const QWidget& host = *window->unmade->dialog->childHost;
+        *rect = rectOf(QRect(host.mapToGlobal(place.topLeft()), place.size()));
+        return TRUE;
+    }
+    const QWidget& widget = *window->widget();
     *rect = rectOf(widget.isWindow() ? widget.frameGeometry() : QRect(widget.mapToGlobal(QPoint()), widget.size()));
     return TRUE;
 }
@@ -171,7 +217,7 @@ BOOL ScreenToClient(HWND window, LPPOINT point)
 {
     if (!isLive(window) || !point)
         return FALSE;
-    const QPoint at = window->widget->mapFromGlobal(QPoint(point->x, point->y));
+    const QPoint at = window->widget()->mapFromGlobal(QPoint(point->x, point->y));
     *point = {at.x(), at.y()};
     return TRUE;
 }
@@ -180,7 +226,7 @@ BOOL ClientToScreen(HWND window, LPPOINT point)
 {
     if (!isLive(window) || !point)
         return FALSE;
-    const QPoint at = window->widget->mapToGlobal(QPoint(point->x, point->y));
+    const QPoint at = window->widget()->mapToGlobal(QPoint(point->x, point->y));
     *point = {at.x(), at.y()};
     return TRUE;
 }
@@ -189,10 +235,12 @@ BOOL InvalidateRect(HWND window, LPCRECT rect, BOOL)
 {
     if (!isLive(window))
         return FALSE;
+    if (window->unmade)
+        return TRUE; // it has been drawn nowhere yet
     if (rect)
-        window->widget->update(rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top);
+        window->widget()->update(rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top);
     else
-        window->widget->update();
+        window->widget()->update();
     return TRUE;
 }
 
@@ -200,8 +248,8 @@ BOOL UpdateWindow(HWND window)
 {
     if (!isLive(window))
         return FALSE;
-    if (window->widget->isVisible())
-        window->widget->repaint();
+    if (window->madeWidget() && window->madeWidget()->isVisible())
+        window->widget()->repaint();
     return TRUE;
 }
 
@@ -209,8 +257,8 @@ BOOL RedrawWindow(HWND window, LPCRECT rect, void*, UINT flags)
 {
     if (!InvalidateRect(window, rect, TRUE))
         return FALSE;
-    if (flags & RDW_ALLCHILDREN)
-        for (QWidget* child : window->widget->findChildren<QWidget*>())
+    if (flags & RDW_ALLCHILDREN && !window->unmade)
+        for (QWidget* child : window->widget()->findChildren<QWidget*>())
             child->update();
     return flags & RDW_UPDATENOW ? UpdateWindow(window) : TRUE;
 }
@@ -241,7 +289,7 @@ LONG_PTR GetWindowLongPtrW(HWND window, int index)
     switch (index) {
     case GWL_STYLE:
         return static_cast<LONG_PTR>((window->style & ~(WS_VISIBLE | WS_DISABLED)) |
-                                     (window->widget->isHidden() ? 0 : WS_VISIBLE) |
+                                     (orvplatform::isHidden(window) ? 0 : WS_VISIBLE) |
                                      (IsWindowEnabled(window) ? 0 : WS_DISABLED));
     case GWL_EXSTYLE:
         return static_cast<LONG_PTR>(window->exStyle);

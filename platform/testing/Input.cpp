@@ -6,6 +6,7 @@
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
 #include "platform/qt/RibbonWidget.h"
+#include "platform/qt/Sleep.h"
 #include "platform/text/Text.h"
 
 #include <QtWidgets>
@@ -67,6 +68,7 @@ bool clickAt(CWnd& window, int x, int y)
     QWidget* widget = widgetOf(window.m_hWnd);
     if (!widget || !widget->isEnabled())
         return false;
+    bringIntoSight(window.m_hWnd);
     QPoint at(x, y);
     // What lets the mouse through is not seen by childAt's receiver: its parent gets the click.
     if (QWidget* child = widget->childAt(at)) {

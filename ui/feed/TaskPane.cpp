@@ -176,8 +176,8 @@ void CTaskPane::addGroup(std::wstring const& title, CWnd& child, int height)
     constexpr COLORREF black = RGB(0, 0, 0);
     int const group = AddGroup(title.c_str(), FALSE, TRUE, nullptr);
     SetGroupTextColor(group, black, black);
-    child.ShowWindow(SW_SHOW);
     AddWindow(group, child.GetSafeHwnd(), height, FALSE);
+    child.ShowWindow(SW_SHOW); // in its place, so that the list can leave it asleep until it is in sight
     placed.insert(&child);
 }
 
