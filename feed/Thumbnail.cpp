@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
+#include <type_traits>
 
 namespace
 {
@@ -28,18 +29,72 @@ constexpr std::array<std::uint32_t, 256> valuesOfCharacters()
     return values;
 }
 
+/// Decodes up to the first character outside the alphabet, whose place is `end`.
+template <class Character>
+std::string decodeUpTo(std::basic_string_view<Character> text, std::size_t& end)
+{
+    static constexpr std::array<std::uint32_t, 256> values = valuesOfCharacters();
+    auto const valueAt = [text](std::size_t at) {
+        auto const character = static_cast<std::make_unsigned_t<Character>>(text[at]);
+        return character < values.size() ? values[character] : noValue;
+    };
+    std::string bytes(text.size() / 4 * 3 + 3, '\0'); // as long as it can get
+    char* out = bytes.data();
+    auto const put = [&out](std::uint32_t group, unsigned count) {
+        for (unsigned shift = 16; count > 0; --count, shift -= 8) {
+            *out++ = static_cast<char>(group >> shift);
+        }
+    };
+    end = 0;
+    for (; end + 4 <= text.size(); end += 4) {
+        std::uint32_t const first = valueAt(end);
+        std::uint32_t const second = valueAt(end + 1);
+        std::uint32_t const third = valueAt(end + 2);
+        std::uint32_t const fourth = valueAt(end + 3);
+        if (((first | second | third | fourth) & noValue) != 0) {
+            break;
+        }
+        put(first << 18U | second << 12U | third << 6U | fourth, 3);
+    }
+    // What is left are three characters at most, up to the one that ends the text.
+    std::uint32_t group = 0;
+    unsigned count = 0;
+    for (; end < text.size() && valueAt(end) != noValue; ++end) {
+        group = group << 6U | valueAt(end);
+        ++count;
+    }
+    if (count > 1) {
+        put(group << (6U * (4 - count)), count - 1);
+    }
+    bytes.resize(static_cast<std::size_t>(out - bytes.data()));
+    return bytes;
+}
+
 } // namespace
 
 bool hasThumbnail(Feed const& feed)
 {
-    return orvtext::utf16Length(feed.thumbnail) >= shortestWithImage;
+    // The first so many characters tell it, whatever follows them.
+    std::wstring_view const text(feed.thumbnail);
+    return orvtext::utf16Length(text.substr(0, shortestWithImage)) >= shortestWithImage;
 }
 
 std::string decodeThumbnail(Feed const& feed)
 {
+    std::size_t const prefix = feed.source == L"web" ? webPrefixLength : prefixLength;
+    std::wstring_view const text(feed.thumbnail);
+    if (text.size() > prefix && orvtext::utf16Length(text.substr(0, prefix)) == prefix) {
+        // Pictures come by the thousand, and hardly one has anything to undo.
+        std::size_t end = 0;
+        std::wstring_view const payload = text.substr(prefix);
+        std::string bytes = decodeUpTo(payload, end);
+        if (end == payload.size() || payload[end] == L'=') {
+            return bytes;
+        }
+    }
     // One byte a 16-bit character, so the prefix can be counted off after the narrowing.
-    std::string payload = orvtext::narrowLowBytes(feed.thumbnail);
-    payload.erase(0, feed.source == L"web" ? webPrefixLength : prefixLength);
+    std::string payload = orvtext::narrowLowBytes(text);
+    payload.erase(0, prefix);
     payload = replaceAll(payload, "%2b", "+");
     std::erase(payload, '\n');
     std::erase(payload, '\r');
@@ -48,34 +103,8 @@ std::string decodeThumbnail(Feed const& feed)
 
 std::string decodeBase64(std::string_view text)
 {
-    static constexpr std::array<std::uint32_t, 256> values = valuesOfCharacters();
-    std::string bytes(text.size() / 4 * 3 + 3, '\0'); // as long as it can get
-    char* end = bytes.data();
-    std::uint32_t group = 0;
-    unsigned count = 0;
-    for (char const character : text) {
-        std::uint32_t const value = values[static_cast<unsigned char>(character)];
-        if (value == noValue) {
-            break;
-        }
-        group = (group << 6U) | value;
-        if (++count == 4) {
-            *end++ = static_cast<char>(group >> 16U);
-            *end++ = static_cast<char>(group >> 8U);
-            *end++ = static_cast<char>(group);
-            group = 0;
-            count = 0;
-        }
-    }
-    if (count > 1) {
-        group <<= 6U * (4 - count);
-        *end++ = static_cast<char>(group >> 16U);
-        if (count == 3) {
-            *end++ = static_cast<char>(group >> 8U);
-        }
-    }
-    bytes.resize(static_cast<std::size_t>(end - bytes.data()));
-    return bytes;
+    std::size_t end = 0;
+    return decodeUpTo(text, end);
 }
 
 std::string encodeBase64(std::string_view bytes)

@@ -28,6 +28,7 @@ HRESULT CImage::Load(IStream* stream)
             return E_FAIL;
         bytes.append(part, static_cast<qsizetype>(count));
     } while (count == sizeof part);
+    bytes.squeeze(); // they are kept until the picture goes
     return attachEncoded(*this, bytes);
 }
 

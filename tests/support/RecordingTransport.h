@@ -111,13 +111,13 @@ private:
                 refused.code = orv::ErrorCode::refused;
                 return refused;
             }
-            Expected const next = expected.front();
+            Expected next = std::move(expected.front()); // an answer may be as long as memory is
             expected.pop_front();
             if (progress) {
                 progress(true, 100);
                 progress(false, 100);
             }
-            return next.handler ? next.handler(record) : next.response;
+            return next.handler ? next.handler(record) : std::move(next.response);
         }
 
         std::deque<Expected> expected;
