@@ -1,6 +1,7 @@
 #include "bench/Pair.h"
 
-#include <algorithm>
+#include "bench/LowerQuartile.h"
+
 #include <chrono>
 #include <ctime>
 #include <utility>
@@ -11,15 +12,6 @@ namespace orvbench
 
 namespace
 {
-
-/// A quarter of the runs took less. On a busy machine more than half of them may wait for a core, now on one side and
-/// now on the other.
-double lowerQuartile(std::vector<double> values)
-{
-    auto const middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 4);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
 
 /// What this thread has had of the processor, seconds.
 double processorTime()

@@ -1,12 +1,16 @@
 // The feed pane with 100, 1,000 and 10,000 records that carry pictures: how long it takes to fill it for the first
 // time, to rebuild it, to load a feed whole and to scroll, and what it keeps in memory, beside the bare cost of parsing
 // the feed and reading the pictures' headers. Times are the processor's, since one thread does it all and others may
-// use the machine. Ends non-zero where an aim is missed: QT_QPA_PLATFORM=offscreen build/release/bin/bench_pane
+// use the machine, and the lower quartiles of several rounds, each with a pane of its own.
+// Ends non-zero where an aim is missed: QT_QPA_PLATFORM=offscreen build/release/bin/bench_pane
 // Numbers of records as arguments measure these alone.
 
 #include "bench/Aims.h"
+#include "bench/LowerQuartile.h"
 #include "feed/FeedReader.h"
 #include "tests/ui/feed/FeedPaneFixture.h"
+
+#include <benchmark/benchmark.h>
 
 #include <QBuffer>
 #include <QImageReader>
@@ -44,6 +48,7 @@ double timed(std::function<void()> const& work)
     return processorMilliseconds() - start;
 }
 
+/// Steps of scrolling aren't alike, so it is the usual one that counts.
 double median(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
@@ -110,21 +115,59 @@ struct Costs {
     double load = 0.0;    ///< of the first load what comes before hint 40: answers taken over, parse
     double frame = 0.0;   ///< one step of scrolling, the median
     double slowestFrame = 0.0;
-    double textMebibytes = 0.0; ///< of one copy of the feed
-    double grown = 0.0;         ///< MiB in memory with the feed on show
-    bool isWhole = false;
+    double needed = 0.0; ///< MiB of three copies of the records' texts and one of their pictures' files
+    double grown = 0.0;  ///< MiB in memory with the feed on show, less what was there before
+    bool isWhole = true;
 };
+
+constexpr int rounds = 5;
+constexpr double bytesOfMebibyte = 1048576.0;
+
+double textBytes(Feed const& feed)
+{
+    std::size_t characters = feed.thumbnail.size() + feed.source.size();
+    for (std::wstring const* text :
+         {&feed.author.id, &feed.author.name, &feed.author.email, &feed.file.id, &feed.file.name, &feed.comment.id,
+          &feed.comment.content, &feed.comment.publishedTime, &feed.comment.updatedTime}) {
+        characters += text->size();
+    }
+    return static_cast<double>(characters * sizeof(wchar_t) + sizeof(Feed));
+}
+
+void measureBareCost(std::string const& answer, Costs& costs)
+{
+    std::wstring const response = orvtext::widenBytes(answer);
+    std::vector<double> parses;
+    std::vector<double> headers;
+    std::vector<Feed> feeds;
+    for (int i = 0; i < rounds; ++i) {
+        parses.push_back(timed([&] { feeds = FeedReader().read(response); }));
+        headers.push_back(timed([&] {
+            for (Feed const& feed : feeds) {
+                std::string const bytes = decodeThumbnail(feed);
+                QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+                QBuffer buffer(&data);
+                buffer.open(QIODevice::ReadOnly);
+                benchmark::DoNotOptimize(QImageReader(&buffer).size());
+            }
+        }));
+    }
+    for (Feed const& feed : feeds) {
+        costs.needed += (3.0 * textBytes(feed) + static_cast<double>(decodeThumbnail(feed).size())) / bytesOfMebibyte;
+    }
+    costs.parse = orvbench::lowerQuartile(parses);
+    costs.headers = orvbench::lowerQuartile(headers);
+}
 
 /// The pane in a window of its own, outside of any test.
 class PaneRun : public orvtest::FeedPaneTest
 {
 public:
-    Costs measure(std::size_t count)
+    /// Fills the pane for the first time.
+    Costs show(std::string const& answer, std::size_t count)
     {
-        std::string const answer = feedOf(count);
         Costs costs;
-        measureBareCost(answer, costs);
-        malloc_trim(0); // or what the parse has left would hide what the pane takes
+        malloc_trim(0); // or what went before would hide what the pane takes
         signIn();
         frame.MoveWindow(0, 0, 340, 900);
         frame.ShowWindow(SW_SHOW);
@@ -139,6 +182,12 @@ public:
         costs.first += timed([] { orvplatform::testing::processEvents(); });
         costs.grown = residentMebibytes() - before;
         costs.isWhole = visibleBlocks() == static_cast<int>(count);
+        return costs;
+    }
+
+    /// Of the filled pane.
+    double rebuild()
+    {
         std::vector<double> rebuilds;
         for (int i = 0; i < rounds; ++i) {
             rebuilds.push_back(timed([&] {
@@ -146,41 +195,10 @@ public:
                 orvplatform::testing::processEvents();
             }));
         }
-        costs.rebuild = median(rebuilds);
-        measureScrolling(costs);
-        return costs;
+        return orvbench::lowerQuartile(rebuilds);
     }
 
-private:
-    static constexpr int rounds = 3;
-
-    void TestBody() override {}
-
-    static void measureBareCost(std::string const& answer, Costs& costs)
-    {
-        std::wstring const response = orvtext::widenBytes(answer);
-        std::vector<double> parses;
-        std::vector<double> headers;
-        std::vector<Feed> feeds;
-        for (int i = 0; i < rounds; ++i) {
-            parses.push_back(timed([&] { feeds = FeedReader().read(response); }));
-            headers.push_back(timed([&] {
-                for (Feed const& feed : feeds) {
-                    std::string const bytes = decodeThumbnail(feed);
-                    QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-                    QBuffer buffer(&data);
-                    buffer.open(QIODevice::ReadOnly);
-                    benchmarkSize = QImageReader(&buffer).size().width();
-                }
-            }));
-        }
-        for (Feed const& feed : feeds) {
-            costs.textMebibytes += static_cast<double>(feed.thumbnail.capacity() * sizeof(wchar_t)) / 1048576.0;
-        }
-        costs.parse = median(parses);
-        costs.headers = median(headers);
-    }
-
+    /// Of the filled pane.
     void measureScrolling(Costs& costs)
     {
         auto* const area = orvplatform::widgetOf(list())->findChild<QScrollArea*>();
@@ -197,8 +215,35 @@ private:
         costs.slowestFrame = *std::max_element(frames.begin(), frames.end());
     }
 
-    static inline volatile int benchmarkSize = 0; ///< keeps the reading from being left out
+private:
+    void TestBody() override {}
 };
+
+Costs measure(std::size_t count)
+{
+    std::string const answer = feedOf(count);
+    Costs costs;
+    measureBareCost(answer, costs);
+    std::vector<double> firsts;
+    std::vector<double> loads;
+    for (int i = 0; i < rounds; ++i) {
+        PaneRun run;
+        Costs const shown = run.show(answer, count);
+        firsts.push_back(shown.first);
+        loads.push_back(shown.load);
+        costs.isWhole = costs.isWhole && shown.isWhole;
+        if (i == 0) {
+            costs.grown = shown.grown; // later ones find room that earlier ones left
+        }
+        if (i == rounds - 1) {
+            costs.rebuild = run.rebuild();
+            run.measureScrolling(costs);
+        }
+    }
+    costs.first = orvbench::lowerQuartile(firsts);
+    costs.load = orvbench::lowerQuartile(loads);
+    return costs;
+}
 
 std::vector<std::size_t> argumentsOf(int argc, char** argv)
 {
@@ -218,14 +263,12 @@ int main(int argc, char** argv)
     std::vector<std::size_t> const counts = chosen.empty() ? std::vector<std::size_t>{100, 1000, 10000} : chosen;
     std::map<std::size_t, Costs> all;
     std::printf("%8s %10s %10s %10s %10s %10s %9s %9s %10s %10s\n", "records", "parse ms", "headers ms", "first ms",
-                "rebuild ms", "load ms", "frame ms", "worst ms", "text MiB", "grown MiB");
+                "rebuild ms", "load ms", "frame ms", "worst ms", "needed MiB", "grown MiB");
     for (std::size_t const count : counts) {
-        // Declared here so that each run's windows are gone before the next begins.
-        PaneRun run;
-        Costs const costs = all[count] = run.measure(count);
+        Costs const costs = all[count] = measure(count);
         std::printf("%8zu %10.1f %10.1f %10.1f %10.1f %10.1f %9.2f %9.2f %10.1f %10.1f\n", count, costs.parse,
                     costs.headers, costs.first, costs.rebuild, costs.load, costs.frame, costs.slowestFrame,
-                    costs.textMebibytes, costs.grown);
+                    costs.needed, costs.grown);
         std::fflush(stdout);
     }
     if (!chosen.empty()) {
@@ -238,9 +281,13 @@ int main(int argc, char** argv)
         aims.expectUnder(std::to_string(count) + " records, scrolling by one frame", all[count].frame, 1000.0 / 60.0,
                          " ms");
     }
-    aims.expectUnder("1,000 records rebuilt and drawn", all[1000].rebuild, 150.0, " ms");
+    constexpr double atOnce = 150.0;
+    aims.expectUnder("1,000 records shown first and drawn", all[1000].first, atOnce, " ms");
+    aims.expectUnder("1,000 records rebuilt and drawn", all[1000].rebuild, atOnce, " ms");
+    aims.expectUnder("10,000 records shown first, times 1,000", all[10000].first / all[1000].first, linear, "");
     aims.expectUnder("10,000 records rebuilt and drawn, times 1,000", all[10000].rebuild / all[1000].rebuild, linear,
                      "");
-    aims.expectUnder("10,000 records shown first, times 1,000", all[10000].first / all[1000].first, linear, "");
+    aims.expectUnder("memory for 10,000 records, times three copies of their texts and their pictures' files",
+                     all[10000].grown / all[10000].needed, 1.15, "");
     return aims.exitStatus();
 }
