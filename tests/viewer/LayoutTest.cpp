@@ -150,6 +150,9 @@ TEST_P(ViewerLayout, TheOptionsFit)
             processEvents();
             expectFits(*orvplatform::widgetOf(sheet.GetSafeHwnd()), page == 0 ? 8 : 5);
         }
+        auto const* const pages = orvplatform::widgetOf(sheet.GetSafeHwnd())->findChild<QListWidget*>();
+        EXPECT_EQ(pages->count(), 2);
+        EXPECT_GE(pages->viewport()->width(), pages->sizeHintForColumn(0)) << "the pages' titles are seen whole";
         return IDCANCEL;
     });
     session->runCommand(orvviewer::showOptions);
