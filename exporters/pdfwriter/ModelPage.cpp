@@ -39,13 +39,13 @@ std::string frameOf(ModelPage const& page)
     TextBlock(canvas, page.title, fieldWidth, {18, true, 0, PANGO_ALIGN_LEFT, 1}).draw(canvas, margin, margin - 6);
     TextBlock(canvas, page.facts, fieldWidth, {9, false, 0.4, PANGO_ALIGN_LEFT, 1}).draw(canvas, margin, margin + 20);
     cairo_t* const cairo = canvas.context();
-    // The line runs around the poster, which would cover the inner half of one at its edge.
-    constexpr double half = 0.5;
-    cairo_rectangle(cairo, margin - half, fieldTop - half, fieldWidth + 2 * half, fieldHeight + 2 * half);
+    // The line runs around the poster, at some distance: readers extend a picture to whole pixels.
+    constexpr double outside = 1.5;
+    cairo_rectangle(cairo, margin - outside, fieldTop - outside, fieldWidth + 2 * outside, fieldHeight + 2 * outside);
     cairo_set_source_rgb(cairo, 0.96, 0.97, 0.98);
     cairo_fill_preserve(cairo);
     cairo_set_source_rgb(cairo, 0.7, 0.7, 0.7);
-    cairo_set_line_width(cairo, 2 * half);
+    cairo_set_line_width(cairo, 1);
     cairo_stroke(cairo);
     if (page.poster.pixels.empty()) {
         TextBlock const word(canvas, "3D model", fieldWidth, {24, false, 0.5, PANGO_ALIGN_CENTER, 1});

@@ -167,18 +167,26 @@ TEST_F(PdfFile, FrameRunsAroundThePosterOnAllSides)
 {
     save();
     auto const rectangle = annotation().getKey("/Rect").getArrayAsRectangle();
-    constexpr int perPoint = 4;
-    auto const page = pageOf(file, 72 * perPoint);
-    auto const grey = [&](double x, double y) { // points from the upper left corner
-        auto const color = page.pixel(static_cast<int>(x * perPoint), static_cast<int>(y * perPoint));
-        return color[0] > 150 && color[0] < 210 && color[0] == color[1] && color[1] == color[2];
-    };
-    double const height = static_cast<double>(page.height) / perPoint;
-    double const middle = height - (rectangle.lly + rectangle.ury) / 2;
-    EXPECT_TRUE(grey(rectangle.llx - 0.5, middle));
-    EXPECT_TRUE(grey(rectangle.urx + 0.5, middle));
-    EXPECT_TRUE(grey(300, height - rectangle.ury - 0.5));
-    EXPECT_TRUE(grey(300, height - rectangle.lly + 0.5));
+    for (int const pixelsPerInch : {60, 72, 96, 150, 300}) {
+        auto const page = pageOf(file, pixelsPerInch);
+        double const perPoint = pixelsPerInch / 72.0;
+        double const height = page.height / perPoint;
+        // From four points outside of an edge's middle inwards: a grey between the page and the poster.
+        auto const meetsLine = [&](double x, double y, int right, int down) {
+            bool isGrey = false;
+            for (double way = -4; way < 2; way += 0.5 / perPoint) {
+                auto const color = page.pixel(static_cast<int>((x + right * way) * perPoint),
+                                              static_cast<int>((y + down * way) * perPoint));
+                isGrey = isGrey || (color[0] == color[1] && color[1] == color[2] && color[0] < 250);
+            }
+            return isGrey;
+        };
+        double const middle = height - (rectangle.lly + rectangle.ury) / 2;
+        EXPECT_TRUE(meetsLine(rectangle.llx, middle, 1, 0)) << pixelsPerInch;
+        EXPECT_TRUE(meetsLine(rectangle.urx, middle, -1, 0)) << pixelsPerInch;
+        EXPECT_TRUE(meetsLine(300, height - rectangle.ury, 0, 1)) << pixelsPerInch;
+        EXPECT_TRUE(meetsLine(300, height - rectangle.lly, 0, -1)) << pixelsPerInch;
+    }
 }
 
 TEST_F(PdfFile, WithoutADisplayTheFieldSaysWhatItIs)
