@@ -50,10 +50,13 @@ void MeshExporter::write(orvexport::Job const& job)
     SceneOptions options;
     options.millimetresPerUnit = orvexport::millimetresPerUnit(job.preferences);
     options.mostInMesh = format.mostInMesh;
-    options.plainNames = format.plainNames;
+    options.names = format.names;
     options.progress = [&job](double done) { job.progress.set(madePart * done); };
     auto const scene = makeScene(parts, options);
 
+    if (format.mostNodes > 0 && scene->mRootNode->mNumChildren + scene->mNumMeshes > format.mostNodes) {
+        throw orvexport::OutputError(orvexp::Status::modelTooLarge, "the format can't count so many parts");
+    }
     Assimp::Exporter exporter;
     auto* const output = new OutputSystem(job.path, job.file); // the exporter's from here on, as is the bridge
     exporter.SetIOHandler(output);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "exporters/base/Exporter.h"
+#include "exporters/meshwriters/MeshScene.h"
 
 #include <cstddef>
 
@@ -14,7 +15,8 @@ struct Format {
     wchar_t const* extension;   ///< of its files
     char const* assimpId;       ///< Assimp's name of the format
     std::size_t mostInMesh = 0; ///< vertices and triangles that one mesh may have; 0 knows no limit
-    bool plainNames = false;    ///< a blank ends a name
+    std::size_t mostNodes = 0;  ///< parts and meshes together that a file may have; 0 knows no limit
+    NameRules names = {};
 };
 
 /// Writes all parts of the model, hidden ones too, where they stand at the moment and in the colours that they show, by

@@ -4,6 +4,7 @@
 #include <assimp/scene.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdio>
 #include <limits>
 #include <map>
@@ -20,13 +21,13 @@ namespace
 using orvexport::Look;
 using orvexport::PlacedPart;
 
-constexpr std::size_t longestName = 200;
+constexpr char const* rootName = "model";
 
-/// At most `longestName` bytes, cut between characters.
-std::string shortened(std::string name)
+/// At most `longest` bytes, cut between characters.
+std::string shortened(std::string name, std::size_t longest)
 {
-    if (name.size() > longestName) {
-        std::size_t end = longestName;
+    if (name.size() > longest) {
+        std::size_t end = longest;
         while (end > 0 && (static_cast<unsigned char>(name[end]) & 0xC0) == 0x80) {
             --end;
         }
@@ -38,29 +39,45 @@ std::string shortened(std::string name)
 class Names
 {
 public:
-    explicit Names(bool withoutBlanks) : isPlain(withoutBlanks) {}
+    explicit Names(NameRules const& wanted) : rules(wanted) {}
 
-    std::string unique(std::string wanted)
+    std::string unique(std::string const& wanted)
     {
-        wanted = shortened(std::move(wanted));
-        for (char& c : wanted) {
-            auto const code = static_cast<unsigned char>(c);
-            if (code < 0x20 || code == 0x7F || (isPlain && c == ' ')) {
-                c = '_';
-            }
-        }
-        if (wanted.empty()) {
-            wanted = "part";
-        }
-        std::string name = wanted;
-        for (int& number = counts[wanted]; !used.insert(name).second;) {
-            name = wanted + '_' + std::to_string(++number + 1);
+        std::string const stem = withoutNumber(shortened(usable(wanted), rules.longest));
+        std::string name = stem;
+        for (int& number = counts[stem]; !used.insert(name).second;) {
+            std::string const end = (rules.areNumbered ? '-' : '_') + std::to_string(++number + 1);
+            name = shortened(stem, rules.longest - end.size()) + end;
         }
         return name;
     }
 
 private:
-    bool isPlain;
+    std::string usable(std::string name) const
+    {
+        for (char& c : name) {
+            auto const code = static_cast<unsigned char>(c);
+            if (code < 0x20 || code == 0x7F || (rules.isPlain && (c == ' ' || c == '\\'))) {
+                c = '_';
+            }
+        }
+        if (rules.isPlain && name.starts_with('#')) {
+            name.front() = '_';
+        }
+        return name.empty() ? "part" : name;
+    }
+
+    /// "gear_2" could be the mesh 2 of the part "gear".
+    std::string withoutNumber(std::string name) const
+    {
+        auto const last = name.find_last_not_of("0123456789");
+        if (rules.areNumbered && last != std::string::npos && last + 1 < name.size() && name[last] == '_') {
+            name[last] = '-';
+        }
+        return name;
+    }
+
+    NameRules rules;
     std::map<std::string, int> counts;
     std::set<std::string> used;
 };
@@ -85,12 +102,12 @@ aiMaterial* makeMaterial(Look const& look)
 class Builder
 {
 public:
-    explicit Builder(SceneOptions const& wanted) : options(wanted), names(wanted.plainNames) {}
+    explicit Builder(SceneOptions const& wanted) : options(wanted), names(wanted.names) {}
 
     std::unique_ptr<aiScene> build(std::vector<PlacedPart> const& parts)
     {
         auto scene = std::make_unique<aiScene>();
-        scene->mRootNode = new aiNode("model");
+        scene->mRootNode = new aiNode(names.unique(rootName));
         scene->mRootNode->mChildren = new aiNode* [parts.size()] {};
         for (std::size_t i = 0; i < parts.size(); ++i) {
             auto* const node = addPart(parts[i]);
@@ -137,7 +154,13 @@ private:
         std::vector<std::uint32_t> vertices;
         std::vector<unsigned> corners;
         std::unordered_map<std::uint32_t, unsigned> numbers;
-        while (next < piece.triangles.size() && corners.size() / 3 < most && vertices.size() + 3 <= most) {
+        while (next < piece.triangles.size() && corners.size() / 3 < most) {
+            auto const corner = piece.triangles.begin() + static_cast<std::ptrdiff_t>(next);
+            auto const added =
+                std::count_if(corner, corner + 3, [&](auto vertex) { return !numbers.contains(vertex); });
+            if (vertices.size() + static_cast<std::size_t>(added) > most) {
+                break;
+            }
             for (int i = 0; i < 3; ++i) {
                 auto const vertex = piece.triangles[next++];
                 auto const [place, isNew] = numbers.try_emplace(vertex, static_cast<unsigned>(vertices.size()));
@@ -148,7 +171,9 @@ private:
             }
         }
         auto mesh = std::make_unique<aiMesh>();
-        mesh->mName = node.mName;
+        if (!options.names.areNumbered) {
+            mesh->mName = node.mName;
+        }
         mesh->mPrimitiveTypes = aiPrimitiveType_TRIANGLE;
         mesh->mMaterialIndex = materialOf(piece.look);
         setVertices(part, vertices, *mesh);
