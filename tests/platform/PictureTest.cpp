@@ -136,11 +136,11 @@ TEST_F(Picture, IsNotShownWhereItsPixelsComeInAnotherSize)
 {
     QImage source(36, 18, QImage::Format_RGB32);
     source.fill(Qt::darkCyan);
-    std::string icon = encoded(source, "ICO");
-    constexpr std::size_t widthInDirectory = 6;
-    icon[widthInDirectory] = 48;
+    const std::string png = encoded(source, "PNG");
     CImage image;
-    ASSERT_EQ(load(image, icon), S_OK);
+    ASSERT_EQ(load(image, iconFile(png, QSize(36, 18))), S_OK);
+    EXPECT_EQ(pixelsOf(image).size(), QSize(36, 18));
+    ASSERT_EQ(load(image, iconFile(png, QSize(48, 18))), S_OK);
     EXPECT_EQ(sizeOf(image), QSize(48, 18));
     EXPECT_TRUE(pixelsOf(image).isNull());
 }

@@ -42,6 +42,15 @@ inline std::string gifFile(QSize screen, QPoint place = {}, char codeSize = 2)
            twoBytes(2) + std::string(1, '\0') + codeSize + std::string("\x03\x44\x34\x05\0;", 6);
 }
 
+/// A file of one icon, which is that PNG and is said to be of that size.
+inline std::string iconFile(const std::string& png, QSize told)
+{
+    const std::string size{static_cast<char>(told.width()), static_cast<char>(told.height())};
+    const std::size_t directory = 22;
+    return twoBytes(0) + twoBytes(1) + twoBytes(1) + size + twoBytes(0) + twoBytes(1) + twoBytes(32) +
+           littleEndian(png.size(), 4) + littleEndian(directory, 4) + png;
+}
+
 /// Says how a camera was held: 6 is a quarter turn.
 inline std::string withOrientation(std::string jpeg, char orientation)
 {
