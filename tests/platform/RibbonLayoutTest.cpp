@@ -121,6 +121,7 @@ TEST_F(Ribbon, ScrollsARowThatIsTooLong)
     for (int i = 0; i < 50 && forth->isVisible(); ++i)
         forth->click();
     EXPECT_TRUE(isInView(16));
+    EXPECT_TRUE(isInView(14)) << "the last of the row";
     EXPECT_FALSE(isInView(1));
     EXPECT_TRUE(waitFor([&] { return button(1).isActiveWindow(); }));
     button(16).setFocus(Qt::TabFocusReason);
