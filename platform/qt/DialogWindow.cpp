@@ -149,9 +149,6 @@ HWND createDialogWindow(const DialogTemplate& source, HWND parent, bool child, c
                       });
     for (const DialogItem& item : source.items)
         createItem(window, item, late);
-    // Nor need one be styled before it is shown.
-    if (late)
-        QCoreApplication::removePostedEvents(widget, QEvent::PolishRequest);
     reportSize(window);
     return window;
 }

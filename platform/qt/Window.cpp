@@ -222,6 +222,8 @@ bool HWND__::translate(QEvent* event)
         // The style sheet has just put the application's font in the place of the window's own.
         orvplatform::renewFont(this);
         return false;
+    case QEvent::PolishRequest:
+        return !unmadeControls.empty(); // a dialog that has never been in sight is styled when it comes there
     case QEvent::Resize:
         orvplatform::reportSize(this);
         break;
