@@ -44,6 +44,16 @@ QStringList nameFilters(const std::wstring& pairs)
     return result;
 }
 
+// A name that may have come from anywhere as one that can be proposed: names choose no folder, and what can't be seen
+// in the dialog isn't in them. May be empty.
+QString proposable(LPCWSTR name)
+{
+    QString text = QString::fromWCharArray(name ? name : L"").section(u'/', -1);
+    std::replace_if(
+        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, QChar(u'_'));
+    return text == u"." || text == u".." ? QString() : text;
+}
+
 // Not by way of wide text, which the library converts by the "C" locale: names in UTF-8 would not survive it.
 std::filesystem::path nativePath(const CString& path)
 {
@@ -68,10 +78,9 @@ INT_PTR CFileDialog::DoModal()
     const QStringList filters = nameFilters(filter);
     if (!filters.isEmpty())
         dialog.setNameFilters(filters);
-    if (m_ofn.lpstrDefExt)
-        dialog.setDefaultSuffix(QString::fromWCharArray(m_ofn.lpstrDefExt).trimmed());
-    if (m_ofn.lpstrFile && *m_ofn.lpstrFile)
-        dialog.selectFile(QString::fromWCharArray(m_ofn.lpstrFile));
+    dialog.setDefaultSuffix(proposable(m_ofn.lpstrDefExt).section(u'.', -1).trimmed());
+    if (const QString name = proposable(m_ofn.lpstrFile); !name.isEmpty())
+        dialog.selectFile(name);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return IDCANCEL;
     TakePath(dialog.selectedFiles().first().toStdWString());
@@ -82,6 +91,12 @@ void CFileDialog::TakePath(const std::wstring& path)
 {
     if (!m_ofn.lpstrFile || m_ofn.nMaxFile == 0)
         return;
+    if (m_ofn.lpstrFile == file.data() && path.size() >= file.size()) {
+        // A path may be longer than MAX_PATH here, and a cut one is another file.
+        file.resize(path.size() + 1);
+        m_ofn.lpstrFile = file.data();
+        m_ofn.nMaxFile = static_cast<DWORD>(file.size());
+    }
     const std::size_t count = std::min<std::size_t>(path.size(), m_ofn.nMaxFile - 1);
     std::copy_n(path.begin(), count, m_ofn.lpstrFile);
     m_ofn.lpstrFile[count] = L'\0';

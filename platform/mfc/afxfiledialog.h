@@ -42,7 +42,8 @@ public:
     OPENFILENAME m_ofn{};
     BOOL m_bOpenFileDialog;
 
-    // Makes a path the chosen one: what GetPathName returns from now on, cut to the room in m_ofn.
+    // Makes a path the chosen one: what GetPathName returns from now on, whole, or
+    // cut to the room in m_ofn where that is the caller's.
     void TakePath(const std::wstring& path);
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 using namespace orvplatform::testing;
@@ -86,4 +87,46 @@ TEST(FileDialog, AsksForAFileWithTheGivenFilterAndExtension)
                   cancelled),
               IDCANCEL);
     EXPECT_EQ(cancelled.GetPathName(), L"part. ");
+
+    // A name from somebody else's record: it stays what was asked for, but chooses no folder and hides nothing.
+    struct {
+        const wchar_t* name;
+        const wchar_t* extension;
+        const char* proposed; // the name alone
+        const char* suffix;
+    } const names[] = {{L"bracket./../../x.csv", L"/../../x.csv", "x.csv", "csv"},
+                       {L"bracket./etc/passwd", L"/etc/passwd", "passwd", "passwd"},
+                       {L"bracket...", L"..", "bracket...", ""},
+                       {L"bracket./..", L"/..", "", ""},
+                       {L"bracket.s\ntl", L"s\ntl", "bracket.s_tl", "s_tl"}};
+    for (const auto& one : names) {
+        CFileDialog asked(FALSE, one.extension, one.name, 6, L"");
+        EXPECT_EQ(ask(
+                      [&](QFileDialog& dialog) {
+                          EXPECT_EQ(dialog.directory().absolutePath(), folder.path());
+                          const auto* edit = dialog.findChild<QLineEdit*>("fileNameEdit");
+                          EXPECT_EQ(edit ? edit->text().toStdString() : "no box for the name", one.proposed);
+                          EXPECT_EQ(dialog.defaultSuffix().toStdString(), one.suffix);
+                          dialog.reject();
+                      },
+                      asked),
+                  IDCANCEL);
+        EXPECT_EQ(asked.GetPathName(), one.name);
+        EXPECT_STREQ(asked.m_ofn.lpstrDefExt, one.extension);
+    }
+}
+
+TEST(FileDialog, KeepsAPathOfAnyLengthWhole)
+{
+    registerTestResources();
+    const std::wstring longPath = L"/" + std::wstring(200, L'a') + L"/" + std::wstring(200, L'b') + L"/c.stl";
+    CFileDialog dialog(FALSE, L"stl", L"bracket.stl", 6, L"");
+    dialog.TakePath(longPath);
+    EXPECT_EQ(dialog.GetPathName(), longPath.c_str());
+    EXPECT_EQ(dialog.GetFileName(), L"c.stl");
+    wchar_t room[10];
+    dialog.m_ofn.lpstrFile = room;
+    dialog.m_ofn.nMaxFile = 10;
+    dialog.TakePath(longPath);
+    EXPECT_EQ(dialog.GetPathName(), std::wstring(longPath, 0, 9).c_str()) << "the caller's room is kept to";
 }
