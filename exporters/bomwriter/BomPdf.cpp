@@ -34,9 +34,22 @@ struct Column {
     PangoAlignment alignment;
 };
 
-std::vector<Column> columnsOf(BomTable const& table)
+/// Room for the longest item, as far as the names leave it; longer ones are wrapped.
+double widthOfItems(PdfCanvas const& canvas, BomTable const& table)
 {
-    double const item = table.byPart ? 44 : 76;
+    double const least = table.byPart ? 44 : 76;
+    constexpr double most = 0.4 * tableWidth;
+    auto const longest = std::max_element(table.rows.begin(), table.rows.end(),
+                                          [](auto const& a, auto const& b) { return a.item.size() < b.item.size(); });
+    if (longest == table.rows.end()) {
+        return least;
+    }
+    double const text = TextBlock(canvas, longest->item, tableWidth, {textSize}).width();
+    return std::clamp(text + 2 * cellPadding + 1, least, most);
+}
+
+std::vector<Column> columnsOf(BomTable const& table, double item)
+{
     double const number = 58;
     double const numbers = table.byPart ? number : 2 * number;
     std::vector<Column> columns{{"Item", margin, item, PANGO_ALIGN_LEFT},
@@ -52,8 +65,8 @@ class Report
 {
 public:
     Report(BomTable const& shown, std::string const& when)
-        : table(shown), date(when), columns(columnsOf(shown)),
-          canvas(pageWidth, pageHeight, shown.title + " - bill of materials")
+        : table(shown), date(when), canvas(pageWidth, pageHeight, shown.title + " - bill of materials"),
+          columns(columnsOf(shown, widthOfItems(canvas, shown)))
     {
     }
 
@@ -86,7 +99,15 @@ private:
                     {textSize, false, 0, PANGO_ALIGN_LEFT, mostLinesOfName});
     }
     static double indentOf(BomRow const& row) { return indentOfLevel * std::min(row.level, deepestIndent); }
-    double heightOf(BomRow const& row) const { return nameOf(row).height() + 2 * cellPadding; }
+    TextBlock itemOf(BomRow const& row) const
+    {
+        return text(row.item, columns[0].width - 2 * cellPadding,
+                    {textSize, false, 0, PANGO_ALIGN_LEFT, mostLinesOfName});
+    }
+    double heightOf(BomRow const& row) const
+    {
+        return std::max(nameOf(row).height(), itemOf(row).height()) + 2 * cellPadding;
+    }
 
     /// The first row of each page.
     std::vector<std::size_t> pageBreaks(std::function<void(double)> const& progress)
@@ -167,7 +188,7 @@ private:
             text(what, column.width - 2 * cellPadding, {textSize, false, 0, column.alignment, 1})
                 .draw(canvas, column.x + cellPadding, y + cellPadding);
         };
-        cell(columns[0], row.item);
+        itemOf(row).draw(canvas, columns[0].x + cellPadding, y + cellPadding);
         nameOf(row).draw(canvas, columns[1].x + cellPadding + indentOf(row), y + cellPadding);
         cell(columns[2], std::to_string(row.quantity));
         if (!table.byPart) {
@@ -191,8 +212,8 @@ private:
 
     BomTable const& table;
     std::string date;
-    std::vector<Column> columns;
     PdfCanvas canvas;
+    std::vector<Column> columns;
 };
 
 } // namespace

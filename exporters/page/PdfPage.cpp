@@ -101,6 +101,13 @@ double TextBlock::height() const
     return static_cast<double>(units) / PANGO_SCALE;
 }
 
+double TextBlock::width() const
+{
+    int units = 0;
+    pango_layout_get_size(layout.get(), &units, nullptr);
+    return static_cast<double>(units) / PANGO_SCALE;
+}
+
 void TextBlock::draw(PdfCanvas const& canvas, double x, double y) const
 {
     cairo_set_source_rgb(canvas.context(), grey, grey, grey);

@@ -51,6 +51,7 @@ class TextBlock
 public:
     TextBlock(PdfCanvas const& canvas, std::string const& text, double width, TextStyle const& style);
     double height() const;                                        ///< points
+    double width() const;                                         ///< points, of the longest line
     void draw(PdfCanvas const& canvas, double x, double y) const; ///< upper left corner
 
 private:

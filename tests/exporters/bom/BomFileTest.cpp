@@ -137,6 +137,30 @@ TEST_F(BomFile, PdfByLevelFollowsTheTree)
     EXPECT_THAT(text, testing::ContainsRegex("2\\.2 +gear +2 +2"));
 }
 
+TEST_F(BomFile, PdfByLevelShowsTheItemsOfDeepTreesWhole)
+{
+    for (int const depth : {12, 60}) {
+        std::vector<orvsg::Node> nodes{scene.topology->nodes.getValue(0)};
+        nodes[0].children.clear();
+        std::string item;
+        for (int i = 1; i <= depth; ++i) {
+            nodes.back().children.push_back(i);
+            nodes.push_back({L"level " + std::to_wstring(i), i - 1, {}, -1});
+            item += i > 1 ? ".1" : "1";
+        }
+        nodes.back().mesh = 0;
+        scene.topology->nodes = orvsg::Container<int, orvsg::Node>(nodes);
+        scene.bom->reportLevel = 1;
+        auto text = pdfText(save("a.bompdf"));
+        EXPECT_EQ(text.find("\u2026"), std::string::npos) << "nothing is cut off";
+        EXPECT_EQ(text.find(item) != std::string::npos, depth == 12) << "that of the deepest tree takes several lines";
+        EXPECT_THAT(text, HasSubstr("level " + std::to_string(depth)));
+        // The numbers of all items are there, whatever their lines.
+        std::ptrdiff_t const points = std::count(text.begin(), text.end(), '.');
+        EXPECT_EQ(points, depth * (depth - 1) / 2);
+    }
+}
+
 TEST_F(BomFile, LongListsHaveAHeadAndANumberOnEachPage)
 {
     std::vector<orvsg::Node> nodes{scene.topology->nodes.getValue(0)};
