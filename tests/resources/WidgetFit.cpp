@@ -5,6 +5,8 @@
 
 #include <QtWidgets>
 
+#include <typeinfo>
+
 namespace restest
 {
 
@@ -22,8 +24,11 @@ Shown ofButton(const QPushButton& button)
 {
     QStyleOptionButton option;
     option.initFrom(&button);
-    const auto caption = orvplatform::fittedCaption(button);
-    QSize needed = QFontMetrics(caption.font).size(Qt::TextShowMnemonic, caption.text);
+    QSize needed = button.fontMetrics().size(Qt::TextShowMnemonic, button.text());
+    if (typeid(button) != typeid(QPushButton)) { // a dialog template's makes its caption fit
+        const auto caption = orvplatform::fittedCaption(button);
+        needed = QFontMetrics(caption.font).size(Qt::TextShowMnemonic, caption.text);
+    }
     if (!button.icon().isNull() && !button.text().isEmpty()) {
         needed.rwidth() += button.iconSize().width() + 4;
     }
