@@ -117,8 +117,10 @@ std::string factsOf(std::vector<orvexport::PlacedPart> const& parts)
             corners += piece.triangles.size();
         }
     }
-    return orvexport::today() + "   \u00B7   " + std::to_string(parts.size()) +
-           (parts.size() == 1 ? " part" : " parts") + "   \u00B7   " + std::to_string(corners / 3) + " triangles";
+    auto const counted = [](std::size_t count, std::string const& noun) {
+        return "   \u00B7   " + std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+    };
+    return orvexport::today() + counted(parts.size(), "part") + counted(corners / 3, "triangle");
 }
 
 class PdfExporter final : public orvexport::Exporter

@@ -205,6 +205,23 @@ TEST_F(PdfFile, TitleInAnyScriptIsReadable)
     EXPECT_EQ(annotation().getKey("/Contents").getUTF8Value(), "3D model of Getriebe größer 歯車");
 }
 
+TEST_F(PdfFile, FactsCountOneAsOne)
+{
+    save();
+    EXPECT_THAT(outputOf("pdftotext '" + file.string() + "' -"), HasSubstr("48 triangles"));
+    auto single = std::make_shared<orvsg::Mesh>(*scene.resources->meshes[0]);
+    single->triangles.resize(3);
+    single->faces = {{0, 1, {}}};
+    auto root = scene.topology->nodes.getValue(0);
+    root.children = {1};
+    scene.resources->meshes[0] = single;
+    scene.topology->nodes = orvsg::Container<int, orvsg::Node>({root, scene.topology->nodes.getValue(1)});
+    save();
+    auto const text = outputOf("pdftotext '" + file.string() + "' -");
+    EXPECT_THAT(text, testing::ContainsRegex("1 part[^s]"));
+    EXPECT_THAT(text, testing::ContainsRegex("1 triangle[^s]"));
+}
+
 TEST_F(PdfFile, ShowsProgressThatRisesToTheEnd)
 {
     save();
