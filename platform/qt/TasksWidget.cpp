@@ -2,6 +2,7 @@
 
 #include "afxtaskspane.h"
 #include "platform/Process.h"
+#include "platform/qt/ButtonRoom.h"
 #include "platform/qt/Gdi.h"
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
@@ -189,24 +190,9 @@ private:
     void wakeNextStop(bool forwards);
 
     std::vector<HWND> awake; // of the groups' windows; some may be gone
+    ButtonRoom buttonRoom;
     bool layingOut = false;
 };
-
-// The height that a window was given, and more where its lowest button would be cut: heights are set for a few display
-// steps, forms grow with their font.
-int heightOf(const CMFCTasksPaneTask& task)
-{
-    int height = task.m_nWindowHeight;
-    if (!isLive(task.m_hwndTask))
-        return height;
-    for (HWND control : task.m_hwndTask->unmadeControls)
-        if (controlKind(control) == ControlKind::Button)
-            height = std::max(height, placeInParent(control).bottom() + 1);
-    for (const QObject* child : task.m_hwndTask->widget()->children())
-        if (const auto* button = qobject_cast<const QPushButton*>(child))
-            height = std::max(height, button->geometry().bottom() + 1);
-    return height;
-}
 
 // Room for a card's title in its font, which grows with the display's resolution.
 int titleHeight()
@@ -226,7 +212,7 @@ int totalHeight(const TaskGroups& groups)
             continue;
         height += measures::grid;
         for (const CMFCTasksPaneTask& task : group->m_lstTasks)
-            height += heightOf(task);
+            height += task.m_nWindowHeight;
     }
     return height;
 }
@@ -246,9 +232,10 @@ void TasksWidget::layoutWithin(int width)
                 ShowWindow(task.m_hwndTask, SW_HIDE);
                 continue;
             }
-            const int height = heightOf(task);
+            const int height = task.m_nWindowHeight;
             MoveWindow(task.m_hwndTask, left + measures::grid, y, std::max(inner - 2 * measures::grid, 0), height,
                        TRUE);
+            buttonRoom.fit(task.m_hwndTask, height);
             ShowWindow(task.m_hwndTask, SW_SHOW);
             y += height;
         }

@@ -1,5 +1,9 @@
 #include "Form.h"
 
+#include "platform/qt/Native.h"
+
+#include <QWidget>
+
 using namespace orvplatform::testing;
 
 namespace
@@ -30,6 +34,13 @@ protected:
         CRect rect;
         window.GetWindowRect(rect);
         pane.ScreenToClient(rect);
+        return rect;
+    }
+    static CRect placeInBlock(CWnd& control)
+    {
+        CRect rect;
+        control.GetWindowRect(rect);
+        control.GetParent()->ScreenToClient(rect);
         return rect;
     }
 
@@ -68,16 +79,51 @@ TEST_F(TasksPane, StacksGroupsOfTheGivenHeights)
     EXPECT_EQ(pane.GetTaskGroup(2), nullptr);
 }
 
-TEST_F(TasksPane, MakesRoomForAButtonThatWouldBeCut)
+TEST_F(TasksPane, ShortensAButtonThatWouldBeCut)
+{
+    CButton button;
+    CButton below;
+    EXPECT_TRUE(button.Create(L"Share", WS_CHILD | WS_VISIBLE, CRect(6, 80, 120, 106), &blocks[0], 5));
+    EXPECT_TRUE(below.Create(L"Below", WS_CHILD | WS_VISIBLE, CRect(6, 110, 120, 130), &blocks[0], 6));
+    pane.AddWindow(pane.AddGroup(L"First", FALSE, TRUE), blocks[0], 100);
+    CRect client;
+    blocks[0].GetClientRect(client);
+    EXPECT_EQ(client.Height(), 100) << "a window is as high as it was told";
+    EXPECT_EQ(placeInBlock(button), CRect(6, 80, 120, 100));
+    EXPECT_EQ(placeInBlock(below), CRect(6, 110, 120, 130)) << "nothing of it would be seen anyhow";
+    pane.SetWindowHeight(blocks[0], 103);
+    EXPECT_EQ(placeInBlock(button), CRect(6, 80, 120, 103));
+    pane.SetWindowHeight(blocks[0], 82);
+    EXPECT_EQ(placeInBlock(button).top, 80);
+    EXPECT_GE(placeInBlock(button).Height(), orvplatform::widgetOf(button)->fontMetrics().height());
+    pane.SetWindowHeight(blocks[0], 128);
+    EXPECT_EQ(placeInBlock(button), CRect(6, 80, 120, 106)) << "there is room again";
+    EXPECT_EQ(placeInBlock(below), CRect(6, 110, 120, 128));
+}
+
+TEST_F(TasksPane, TakesTheNewPlaceOfAButtonThatItHadShortened)
 {
     CButton button;
     EXPECT_TRUE(button.Create(L"Share", WS_CHILD | WS_VISIBLE, CRect(6, 80, 120, 106), &blocks[0], 5));
     pane.AddWindow(pane.AddGroup(L"First", FALSE, TRUE), blocks[0], 100);
-    pane.AddWindow(pane.AddGroup(L"", FALSE, TRUE), blocks[1], 40);
-    const CRect first = placeOf(blocks[0]);
-    EXPECT_EQ(first.Height(), 106);
-    EXPECT_GT(placeOf(blocks[1]).top, first.bottom);
-    EXPECT_EQ(pane.GetTaskGroup(0)->m_lstTasks.at(0).m_nWindowHeight, 100); // what was asked for
+    button.MoveWindow(6, 70, 50, 35);
+    pane.RecalcLayout();
+    EXPECT_EQ(placeInBlock(button), CRect(6, 70, 56, 100));
+    pane.SetWindowHeight(blocks[0], 120);
+    EXPECT_EQ(placeInBlock(button), CRect(6, 70, 56, 105));
+    button.DestroyWindow();
+    pane.SetWindowHeight(blocks[0], 90);
+}
+
+TEST_F(TasksPane, ShortensTheButtonOfAWindowThatSleeps)
+{
+    CRect const whole = placeInBlock(*blocks[1].GetDlgItem(1000));
+    pane.AddWindow(pane.AddGroup(L"First", FALSE, TRUE), blocks[0], 3000);
+    pane.AddWindow(pane.AddGroup(L"", FALSE, TRUE), blocks[1], whole.bottom - 4);
+    EXPECT_EQ(placeInBlock(*blocks[1].GetDlgItem(1000)).Height(), whole.Height() - 4);
+    EXPECT_FALSE(orvplatform::widgetOf(blocks[1])->isVisible());
+    pane.SetWindowHeight(blocks[1], whole.bottom);
+    EXPECT_EQ(placeInBlock(*blocks[1].GetDlgItem(1000)), whole);
 }
 
 TEST_F(TasksPane, LeavesTheWindowsOfRemovedGroups)

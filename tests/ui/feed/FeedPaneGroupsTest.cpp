@@ -281,6 +281,11 @@ TEST_F(FeedPaneTest, GroupHeightsFollowTheResolution)
         ASSERT_EQ(groups().size(), 2U);
         EXPECT_EQ(groups()[0].height, tools) << dpi;
         EXPECT_EQ(groups()[1].height, commentBox) << dpi;
+        for (auto const& [group, height] : {std::pair(0U, tools), std::pair(1U, commentBox)}) {
+            CRect client;
+            childOf(group).GetClientRect(&client);
+            EXPECT_EQ(client.Height(), height) << dpi;
+        }
         pane->DestroyWindow();
     }
 }

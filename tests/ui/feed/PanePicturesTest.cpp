@@ -128,6 +128,39 @@ TEST_F(PanePicturesTest, SignedInWithAModel)
     expectPicture("model");
 }
 
+TEST_F(PanePicturesTest, TheFormsHaveTheirGivenHeightsAndWholeButtons)
+{
+    struct {
+        double dpi;
+        int tools;
+        int comment;
+    } const given[] = {{96, 100, 120}, {120, 125, 150}, {144, 150, 180}, {192, 175, 210}};
+    for (wchar_t const* const language : {L"en", L"de", L"ja"}) {
+        speak(language);
+        signIn();
+        openVisiblePane();
+        processEvents();
+        for (auto const& [dpi, tools, commentBox] : given) {
+            if (dpi != orvplatform::logicalDpi()) {
+                continue;
+            }
+            for (auto const& [group, height] : {std::pair(0U, tools), std::pair(1U, commentBox)}) {
+                CRect client;
+                childOf(group).GetClientRect(&client);
+                EXPECT_EQ(client.Height(), height);
+                for (CWnd* const each : windowsBelow<CButton>(childOf(group))) {
+                    CRect place;
+                    each->GetWindowRect(&place);
+                    childOf(group).ScreenToClient(&place);
+                    EXPECT_LE(place.bottom, height);
+                    EXPECT_GE(place.Height(), orvplatform::widgetOf(*each)->fontMetrics().height() + 4);
+                }
+            }
+        }
+        pane->DestroyWindow();
+    }
+}
+
 TEST_F(PanePicturesTest, AnEmptyFeed)
 {
     signIn();
