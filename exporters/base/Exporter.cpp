@@ -4,6 +4,7 @@
 #include "host/orvsg/SCSceneRes.h"
 #include "host/orvsg/SCSceneTopo.h"
 #include "host/runtime/Files.h"
+#include "platform/text/Text.h"
 
 #include <algorithm>
 #include <new>
@@ -26,6 +27,7 @@ bool Exporter::takes(wchar_t const* path)
 orvexp::Status Exporter::save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& document,
                               std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* status)
 {
+    beside.clear();
     try {
         Progress progress(status);
         auto const topology = orv::recordOf<orvsg::SCSceneTopo>(document);
@@ -36,15 +38,22 @@ orvexp::Status Exporter::save(wchar_t const* path, std::shared_ptr<orv::IDocumen
             return orvexp::Status::cannotWrite;
         }
         auto const target = orvhost::nativePath(path);
-        OutputFile file(target);
-        std::vector<std::unique_ptr<OutputFile>> companions;
-        write({document, preferences.get(), target, orvhost::extensionOf(path), file, companions, progress});
-        std::vector<OutputFile*> files;
-        for (auto const& companion : companions) {
-            files.push_back(companion.get());
+        try {
+            OutputFile file(target);
+            std::vector<std::unique_ptr<OutputFile>> companions;
+            write({document, preferences.get(), target, orvhost::extensionOf(path), file, companions, progress});
+            std::vector<OutputFile*> files;
+            for (auto const& companion : companions) {
+                files.push_back(companion.get());
+            }
+            files.push_back(&file); // last: whoever opens it finds what it names
+            OutputFile::putInPlace(files);
+        } catch (OutputError const& error) {
+            if (!error.file().empty() && error.file() != target) {
+                beside = orvtext::fromUtf8(error.file().string());
+            }
+            throw;
         }
-        files.push_back(&file); // last: whoever opens it finds what it names
-        OutputFile::putInPlace(files);
         progress.set(1);
         return orvexp::Status::ok;
     } catch (...) {

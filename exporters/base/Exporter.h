@@ -51,6 +51,7 @@ public:
     bool takes(wchar_t const* path) override;
     orvexp::Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& document,
                         std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* status) override;
+    wchar_t const* unwrittenBeside() override { return beside.c_str(); }
 
 protected:
     /// `identityText` as in IPlugin; `fileExtensions` in lower case, without the point.
@@ -63,6 +64,7 @@ private:
     wchar_t const* name;
     orv::GUID ownId;
     std::vector<std::wstring> extensions;
+    std::wstring beside;
 };
 
 } // namespace orvexport

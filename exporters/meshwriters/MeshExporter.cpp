@@ -9,6 +9,8 @@
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/scene.h>
 
+#include <new>
+
 namespace meshwriters
 {
 
@@ -63,6 +65,9 @@ void MeshExporter::write(orvexport::Job const& job)
     exporter.SetProgressHandler(new ProgressBridge(job.progress));
     aiReturn const result = exporter.Export(scene.get(), format.assimpId, job.path.c_str());
     output->check();
+    if (result == aiReturn_OUTOFMEMORY) {
+        throw std::bad_alloc();
+    }
     if (result != aiReturn_SUCCESS) {
         throw orvexport::OutputError(exporter.GetErrorString());
     }

@@ -45,16 +45,6 @@ orvexp::Status statusOf(int error)
     }
 }
 
-[[noreturn]] void fail(int error, orvexp::Status status)
-{
-    throw OutputError(status, std::strerror(error));
-}
-
-[[noreturn]] void fail(int error)
-{
-    fail(error, statusOf(error));
-}
-
 std::filesystem::path behindLinks(std::filesystem::path path)
 {
     std::error_code failure;
@@ -65,6 +55,13 @@ std::filesystem::path behindLinks(std::filesystem::path path)
     return path;
 }
 
+bool isTooLong(std::filesystem::path const& folder)
+{
+    struct stat found {
+    };
+    return stat(folder.c_str(), &found) != 0 && errno == ENAMETOOLONG;
+}
+
 /// A name in the same folder that no other save takes.
 std::filesystem::path besides(std::filesystem::path const& target, char const* beginning)
 {
@@ -73,16 +70,19 @@ std::filesystem::path besides(std::filesystem::path const& target, char const* b
 
 } // namespace
 
-OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks(wanted))
+OutputFile::OutputFile(std::filesystem::path const& wanted) : asked(wanted), target(behindLinks(wanted))
 {
     if (target.filename().empty()) {
-        throw OutputError("the path names no file");
+        throw OutputError(orvexp::Status::cannotWrite, "the path names no file", asked);
     }
     struct stat old {
     };
     bool const replaces = stat(target.c_str(), &old) == 0;
     if (!replaces && errno != ENOENT) {
-        fail(errno); // the temporary name is shorter, so that a name that is too long would only be found at the end
+        int const error = errno;
+        // The temporary name may be shorter, so that a name that is too long would only be found at the end.
+        bool const isTheFolder = error == ENAMETOOLONG && isTooLong(target.parent_path());
+        fail(error, isTheFolder ? orvexp::Status::pathTooLong : statusOf(error));
     }
     if (replaces && S_ISDIR(old.st_mode)) {
         fail(EISDIR);
@@ -92,7 +92,7 @@ OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks
     if (replaces && (old.st_mode & anyWrite) == 0) {
         fail(EACCES, orvexp::Status::isProtected);
     }
-    if (replaces && access(target.c_str(), W_OK) != 0) {
+    if (replaces && faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0) {
         fail(errno, errno == EACCES ? orvexp::Status::isProtected : statusOf(errno));
     }
     do {
@@ -104,7 +104,10 @@ OutputFile::OutputFile(std::filesystem::path const& wanted) : target(behindLinks
         std::error_code unknown;
         // A file system that takes no files, such as one of the system's own, says that too.
         bool const isNoReason = error == ENOENT && std::filesystem::is_directory(name.parent_path(), unknown);
-        fail(error, isNoReason ? orvexp::Status::cannotWrite : statusOf(error));
+        // The wanted name has been found to be short enough; the one before it may be longer.
+        fail(error, isNoReason              ? orvexp::Status::cannotWrite
+                    : error == ENAMETOOLONG ? orvexp::Status::pathTooLong
+                                            : statusOf(error));
     }
     if (replaces) {
         // Who may read the file stays as it was; a file system without such rights has nothing to keep.
@@ -184,16 +187,29 @@ void OutputFile::finish()
 
 void OutputFile::replace(bool withWayBack)
 {
-    // Without an earlier file there is nothing to come back to; some file systems know no second names.
-    if (auto const second = besides(target, ".replaced-"); withWayBack && link(target.c_str(), second.c_str()) == 0) {
-        earlier = second;
+    if (withWayBack) {
+        keepEarlier();
     }
     if (std::rename(name.c_str(), target.c_str()) != 0) {
         int const error = errno;
-        dropEarlier();
+        giveWay();
         fail(error);
     }
     kept = true;
+}
+
+void OutputFile::keepEarlier()
+{
+    auto const second = besides(target, ".replaced-");
+    if (link(target.c_str(), second.c_str()) == 0) {
+        earlier = second;
+    } else if (errno != ENOENT) { // without an earlier file there is nothing to come back to
+        // Some file systems, such as those of memory cards, know no second names: it has the other name alone then.
+        if (std::rename(target.c_str(), second.c_str()) != 0) {
+            fail(errno);
+        }
+        earlier = second;
+    }
 }
 
 void OutputFile::dropEarlier()
@@ -206,12 +222,27 @@ void OutputFile::dropEarlier()
 
 void OutputFile::giveWay()
 {
-    if (earlier.empty()) {
-        unlink(target.c_str());
-    } else {
-        [[maybe_unused]] int const ignored = std::rename(earlier.c_str(), target.c_str());
+    if (!earlier.empty()) {
+        std::error_code unknown;
+        bool const isBack = std::rename(earlier.c_str(), target.c_str()) == 0;
+        // Renaming does nothing where both are still names of one file. What didn't come back is left where it is.
+        if (isBack || std::filesystem::equivalent(earlier, target, unknown)) {
+            unlink(earlier.c_str());
+        }
         earlier.clear();
+    } else if (kept) {
+        unlink(target.c_str());
     }
+}
+
+void OutputFile::fail(int error) const
+{
+    fail(error, statusOf(error));
+}
+
+void OutputFile::fail(int error, orvexp::Status status) const
+{
+    throw OutputError(status, std::strerror(error), asked);
 }
 
 } // namespace orvexport

@@ -17,12 +17,18 @@ namespace orvexport
 class OutputError : public std::runtime_error
 {
 public:
-    OutputError(orvexp::Status outcome, std::string const& words) : std::runtime_error(words), reason(outcome) {}
+    OutputError(orvexp::Status outcome, std::string const& words, std::filesystem::path const& path = {})
+        : std::runtime_error(words), reason(outcome), unwritten(path)
+    {
+    }
     explicit OutputError(std::string const& words) : OutputError(orvexp::Status::cannotWrite, words) {}
     orvexp::Status status() const { return reason; }
+    /// The file in question, as it was asked for; empty where the reason lies with no file.
+    std::filesystem::path const& file() const { return unwritten; }
 
 private:
     orvexp::Status reason;
+    std::filesystem::path unwritten;
 };
 
 /// A file that replaces the one of its name as a whole, or not at all: it is written under a temporary name in the same
@@ -55,10 +61,14 @@ public:
 private:
     void finish(); ///< content on the disk, under the temporary name
     void replace(bool withWayBack);
+    void keepEarlier();
     void dropEarlier();
     void giveWay();
+    [[noreturn]] void fail(int error) const;
+    [[noreturn]] void fail(int error, orvexp::Status status) const;
 
-    std::filesystem::path target;
+    std::filesystem::path asked;  ///< as it was asked for
+    std::filesystem::path target; ///< behind its links
     std::filesystem::path name;
     std::filesystem::path earlier; ///< second name of the file that was replaced; empty without a way back
     int descriptor = -1;

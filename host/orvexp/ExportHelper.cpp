@@ -60,4 +60,9 @@ bool ExportHelper::takes(wchar_t const* path)
     return exporter != nullptr && exporter->takes(path);
 }
 
+wchar_t const* ExportHelper::unwrittenBeside()
+{
+    return exporter == nullptr ? L"" : exporter->unwrittenBeside();
+}
+
 } // namespace orvexp

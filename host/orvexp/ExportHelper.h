@@ -25,6 +25,7 @@ public:
     Status save(wchar_t const* path, std::shared_ptr<orv::IDocument> const& document,
                 std::shared_ptr<orv::Preferences> preferences, orv::IStatusManager* status) override;
     bool takes(wchar_t const* path) override;
+    wchar_t const* unwrittenBeside() override;
 
 private:
     std::shared_ptr<orv::DLLFuncPtrHelper<orv::IPlugin>> library;

@@ -19,7 +19,8 @@ enum class Status : int {
     fileTooLarge = 11, ///< for the file system
     nameTooLong = 12,  ///< for the file system
     noMemory = 13,
-    modelTooLarge = 14 ///< the format can't count as much
+    modelTooLarge = 14, ///< the format can't count as much
+    pathTooLong = 15    ///< that of the folder, for the system
 };
 
 } // namespace orvexp

@@ -104,6 +104,7 @@ TEST_F(Saving, EachReasonHasASentenceOfItsOwn)
     std::filesystem::create_directory(output / "folder.stl");
     std::filesystem::permissions(writeFile(output / "kept.stl", "kept"), std::filesystem::perms::owner_read);
     std::string const longName = std::string(252, 'n') + ".stl";
+    std::string const deep = std::string(256, 'f') + "/a.stl";
     for (auto const& [name, reason, sentence] :
          {Case{"folder.stl", Status::isFolder,
                "\"folder.stl\" can't be written: it is a folder. Choose a name for the file."},
@@ -113,6 +114,8 @@ TEST_F(Saving, EachReasonHasASentenceOfItsOwn)
                "\"a.stl\" can't be written: its folder doesn't exist. Choose another folder."},
           Case{longName, Status::nameTooLong,
                inQuotes(longName) + " can't be written: its name is too long. Choose a shorter name."},
+          Case{deep, Status::pathTooLong,
+               "\"a.stl\" can't be written: the path of its folder is too long. Choose a folder with a shorter path."},
           Case{"a.xyz", Status::noLibrary,
                "\"a.xyz\" can't be saved: its exporter isn't installed. Choose another format."}}) {
         EXPECT_FALSE(session->exportModel((output / name).wstring()));
@@ -121,6 +124,24 @@ TEST_F(Saving, EachReasonHasASentenceOfItsOwn)
         EXPECT_EQ(status(), sentence);
     }
     EXPECT_EQ(contentOf(output / "kept.stl"), "kept");
+    EXPECT_EQ(filesInOutput(), 2U);
+}
+
+TEST_F(Saving, FileBesideThatStandsInTheWayIsTheOneNamed)
+{
+    std::filesystem::create_directory(output / "cubes.mtl");
+    EXPECT_EQ(save(output / "cubes.obj"), static_cast<int>(Status::isFolder));
+    EXPECT_EQ(status(), "\"cubes.mtl\" can't be written: it is a folder. Choose a name for the file.");
+    EXPECT_EQ(save(output / "cubes.stl"), 0) << "which puts nothing beside it";
+    std::filesystem::remove(output / "cubes.mtl");
+
+    std::filesystem::permissions(writeFile(output / "cubes.mtl", "kept"), std::filesystem::perms::owner_read);
+    EXPECT_FALSE(session->exportModel((output / "cubes.obj").wstring()));
+    EXPECT_EQ(status(), "\"cubes.mtl\" can't be written: it is protected against writing. Choose another name.");
+    EXPECT_EQ(contentOf(output / "cubes.mtl"), "kept");
+
+    EXPECT_FALSE(session->exportModel((output / "none" / "cubes.obj").wstring()));
+    EXPECT_EQ(status(), "\"cubes.obj\" can't be written: its folder doesn't exist. Choose another folder.");
     EXPECT_EQ(filesInOutput(), 2U);
 }
 

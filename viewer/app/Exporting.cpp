@@ -84,6 +84,9 @@ std::wstring sentenceFor(orvexp::Status status, std::wstring const& name)
         return L"\"" + name + L"\" can't be written: its disk takes no file of this size. Choose another disk.";
     case Status::nameTooLong:
         return L"\"" + name + L"\" can't be written: its name is too long. Choose a shorter name.";
+    case Status::pathTooLong:
+        return L"\"" + name +
+               L"\" can't be written: the path of its folder is too long. Choose a folder with a shorter path.";
     case Status::noMemory:
         return L"\"" + name + L"\" can't be written: the memory is full. Close other programs and try again.";
     case Status::modelTooLarge:
@@ -117,7 +120,9 @@ ExportResult exportDocument(std::shared_ptr<orv::IDocument> const& document, std
         }
         auto const exporters = loadExporters();
         if (auto const exporter = exporters->getPlugin(path.c_str())) {
-            return outcome(exporter->save(path.c_str(), document, nullptr, status), path);
+            auto const reason = exporter->save(path.c_str(), document, nullptr, status);
+            std::wstring const beside = exporter->unwrittenBeside();
+            return outcome(reason, beside.empty() ? path : beside);
         }
         return outcome(orvexp::Status::noLibrary, path);
     } catch (...) {

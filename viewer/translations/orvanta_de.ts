@@ -516,6 +516,10 @@
         <translation>„%1“ kann nicht geschrieben werden: Der Name ist zu lang. Wählen Sie einen kürzeren Namen.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>„%1“ kann nicht geschrieben werden: Der Pfad des Ordners ist zu lang. Wählen Sie einen Ordner mit kürzerem Pfad.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>„%1“ kann nicht geschrieben werden: Der Arbeitsspeicher ist voll. Schließen Sie andere Programme, und versuchen Sie es noch einmal.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>No se puede escribir &quot;%1&quot;: el nombre es demasiado largo. Elija un nombre más corto.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>No se puede escribir &quot;%1&quot;: la ruta de la carpeta es demasiado larga. Elija una carpeta con una ruta más corta.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>No se puede escribir &quot;%1&quot;: la memoria está llena. Cierre otros programas e inténtelo de nuevo.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>Impossible d&apos;écrire « %1 » : le nom est trop long. Choisissez un nom plus court.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>Impossible d&apos;écrire « %1 » : le chemin du dossier est trop long. Choisissez un dossier dont le chemin est plus court.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>Impossible d&apos;écrire « %1 » : la mémoire est pleine. Fermez d&apos;autres programmes et réessayez.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>「%1」に書き込めません。名前が長すぎます。短い名前を選択してください。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>「%1」に書き込めません。フォルダーのパスが長すぎます。パスの短いフォルダーを選択してください。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>「%1」に書き込めません。メモリが不足しています。他のプログラムを終了して、もう一度お試しください。</translation>
     </message>

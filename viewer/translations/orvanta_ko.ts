@@ -516,6 +516,10 @@
         <translation>&quot;%1&quot;에 쓸 수 없습니다. 이름이 너무 깁니다. 더 짧은 이름을 선택하십시오.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>&quot;%1&quot;에 쓸 수 없습니다. 폴더 경로가 너무 깁니다. 경로가 더 짧은 폴더를 선택하십시오.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>&quot;%1&quot;에 쓸 수 없습니다. 메모리가 부족합니다. 다른 프로그램을 닫고 다시 시도하십시오.</translation>
     </message>

@@ -516,6 +516,10 @@
         <translation>&quot;%1&quot; não pode ser gravado: o nome é longo demais. Escolha um nome mais curto.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>&quot;%1&quot; não pode ser gravado: o caminho da pasta é longo demais. Escolha uma pasta com caminho mais curto.</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>&quot;%1&quot; não pode ser gravado: a memória está cheia. Feche outros programas e tente novamente.</translation>
     </message>

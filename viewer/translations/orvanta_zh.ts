@@ -516,6 +516,10 @@
         <translation>无法写入“%1”：名称太长。请选择较短的名称。</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; can&apos;t be written: the path of its folder is too long. Choose a folder with a shorter path.</source>
+        <translation>无法写入“%1”：文件夹的路径太长。请选择路径较短的文件夹。</translation>
+    </message>
+    <message>
         <source>&quot;%1&quot; can&apos;t be written: the memory is full. Close other programs and try again.</source>
         <translation>无法写入“%1”：内存不足。请关闭其他程序后重试。</translation>
     </message>

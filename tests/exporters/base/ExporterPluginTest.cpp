@@ -8,6 +8,7 @@
 #include "viewer/ModelFixture.h"
 
 #include <algorithm>
+#include <new>
 #include <set>
 
 using namespace orvtest;
@@ -127,6 +128,28 @@ TEST_P(ExporterPlugin, FullDiskLeavesTheEarlierFile)
     EXPECT_EQ(status, Status::fileTooLarge);
     EXPECT_EQ(contentOf(file), "kept");
     EXPECT_EQ(filesIn(folder.path), 1U);
+}
+
+TEST_P(ExporterPlugin, MemoryThatRunsOutIsAReasonOfItsOwn)
+{
+    // Wherever it happens: also within what the exporter's library calls.
+    for (int const percent : {1, 45}) {
+        struct LastStraw final : orv::IStatusManager {
+            void setProgress(int const& done, int) override
+            {
+                if (done >= least) {
+                    throw std::bad_alloc();
+                }
+            }
+            void showProgress(int, int) override {}
+            int least = 0;
+        } full;
+        full.least = percent;
+        auto const file = writeFile(fileIn(folder.path), "kept");
+        EXPECT_EQ(loadExporter(GetParam().name)->save(file.wstring().c_str(), scene.document, nullptr, &full),
+                  Status::noMemory)
+            << percent;
+    }
 }
 
 TEST_P(ExporterPlugin, LinkStaysALinkAndItsFileIsReplaced)

@@ -23,9 +23,9 @@ class MaterialLibrary : public testing::Test
 protected:
     Status save(std::filesystem::path const& file)
     {
-        return loadExporter("objwriter")
-            ->save(orvtext::fromUtf8(file.string()).c_str(), scene.document, nullptr, nullptr);
+        return exporter->save(orvtext::fromUtf8(file.string()).c_str(), scene.document, nullptr, nullptr);
     }
+    std::string unwritten() const { return orvtext::toUtf8(exporter->unwrittenBeside()); }
     std::set<std::string> files() const
     {
         std::set<std::string> names;
@@ -47,6 +47,7 @@ protected:
         return {};
     }
 
+    std::shared_ptr<orvexp::ExportHelper> const exporter = loadExporter("objwriter");
     TestScene scene;
     TemporaryFolder folder;
 };
@@ -80,6 +81,7 @@ TEST_F(MaterialLibrary, ThatCantBeWrittenLeavesTheEarlierModel)
     auto const file = writeFile(folder.path / "model.obj", "old");
     std::filesystem::create_directory(folder.path / "model.mtl");
     EXPECT_EQ(save(file), Status::isFolder);
+    EXPECT_EQ(unwritten(), (folder.path / "model.mtl").string());
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_EQ(files(), (std::set<std::string>{"model.mtl", "model.obj"}));
 
@@ -87,9 +89,17 @@ TEST_F(MaterialLibrary, ThatCantBeWrittenLeavesTheEarlierModel)
     auto const library = writeFile(folder.path / "model.mtl", "kept");
     std::filesystem::permissions(library, std::filesystem::perms::owner_read);
     EXPECT_EQ(save(file), Status::isProtected);
+    EXPECT_EQ(unwritten(), library.string());
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_EQ(contentOf(library), "kept");
     EXPECT_EQ(files().size(), 2U);
+
+    // It is told of the last save alone, and of no reason that lies with the model's own file.
+    EXPECT_EQ(save(folder.path / "missing" / "model.obj"), Status::noFolder);
+    EXPECT_EQ(unwritten(), "");
+    std::filesystem::permissions(library, std::filesystem::perms::owner_all);
+    EXPECT_EQ(save(file), Status::ok);
+    EXPECT_EQ(unwritten(), "");
 }
 
 TEST_F(MaterialLibrary, StaysWithTheModelOnAFullDisk)
