@@ -15,7 +15,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
-#include <QScrollArea>
+#include <QAbstractScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -201,7 +201,7 @@ public:
     /// Of the filled pane.
     void measureScrolling(Costs& costs)
     {
-        auto* const area = orvplatform::widgetOf(list())->findChild<QScrollArea*>();
+        auto* const area = orvplatform::widgetOf(list())->findChild<QAbstractScrollArea*>();
         QScrollBar& bar = *area->verticalScrollBar();
         std::vector<double> frames;
         constexpr int steps = 200;

@@ -1,6 +1,7 @@
 #pragma once
 #include "afxdockablepane.h"
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,8 +22,14 @@ struct CMFCTasksPaneTaskGroup {
     HICON m_hIcon = nullptr;
     COLORREF m_clrText = CLR_DEFAULT;
     COLORREF m_clrTextHot = CLR_DEFAULT;
-    CRect m_rect;      // the whole group, pixels of the scrolled list
+    CRect m_rect;      // the whole group, pixels of the scrolled list; INT_MAX stands for all beyond
     CRect m_rectGroup; // the part below its title
+    // Where it stands from top to bottom, in pixels of the list however long that is.
+    struct Place {
+        std::int64_t top = 0;
+        std::int64_t body = 0; // its windows, below the title
+        std::int64_t bottom = 0;
+    } place;
     std::vector<CMFCTasksPaneTask> m_lstTasks;
 };
 

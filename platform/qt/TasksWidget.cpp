@@ -7,12 +7,15 @@
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
 #include "platform/qt/Sleep.h"
+#include "platform/qt/TasksArea.h"
+#include "platform/qt/TasksColumn.h"
 #include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 
 #include <QtWidgets>
 
 #include <algorithm>
+#include <limits>
 #include <unordered_set>
 #include <utility>
 
@@ -20,137 +23,35 @@ namespace orvplatform
 {
 namespace
 {
-QRect rectOf(const RECT& rect)
+constexpr int focusMargin = 50; // pixels of a list that stay in sight around what the Tab key comes to
+
+CRect rectOf(int left, qint64 top, int width, qint64 bottom)
 {
-    return {QPoint(rect.left, rect.top), QPoint(rect.right - 1, rect.bottom - 1)};
+    const auto reachable = [](qint64 y) {
+        return static_cast<int>(std::min<qint64>(y, std::numeric_limits<int>::max()));
+    };
+    return {left, reachable(top), left + width, reachable(bottom)};
 }
-CRect rectOf(const QRect& rect)
-{
-    return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
-}
-
-// The first group that doesn't end above y.
-TaskGroups::const_iterator firstReaching(const TaskGroups& groups, int y)
-{
-    return std::partition_point(groups.begin(), groups.end(),
-                                [y](const auto& group) { return group->m_rect.bottom <= y; });
-}
-
-// The scrolled column. It paints the cards; the groups' windows are its children.
-class Column final : public QWidget
-{
-public:
-    const TaskGroups* groups = nullptr;
-    bool collapsible = true;
-    std::function<void()> relayout;
-
-    Column() { setMouseTracking(true); }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        if (!groups)
-            return;
-        // From top to bottom, so those in sight stand together.
-        const QRect dirty = event->rect();
-        for (auto group = firstReaching(*groups, dirty.top()); group != groups->end(); ++group) {
-            if ((*group)->m_rect.top > dirty.bottom())
-                break;
-            paintCard(painter, **group);
-        }
-    }
-    void mouseMoveEvent(QMouseEvent* event) override
-    {
-        const CMFCTasksPaneTaskGroup* now = titleAt(event->position().toPoint());
-        if (now != hovered) {
-            hovered = now;
-            update();
-        }
-    }
-    void leaveEvent(QEvent*) override
-    {
-        hovered = nullptr;
-        update();
-    }
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        CMFCTasksPaneTaskGroup* group = collapsible ? titleAt(event->position().toPoint()) : nullptr;
-        if (!group)
-            return QWidget::mousePressEvent(event);
-        group->m_bIsCollapsed = !group->m_bIsCollapsed;
-        relayout();
-    }
-
-private:
-    CMFCTasksPaneTaskGroup* titleAt(QPoint at) const
-    {
-        if (!groups)
-            return nullptr;
-        const auto group = firstReaching(*groups, at.y());
-        const bool hit =
-            group != groups->end() && rectOf((*group)->m_rect).contains(at) && at.y() < (*group)->m_rectGroup.top;
-        return hit ? group->get() : nullptr;
-    }
-
-    void paintCard(QPainter& painter, const CMFCTasksPaneTaskGroup& group)
-    {
-        const Theme& t = theme();
-        const QRectF card = QRectF(rectOf(group.m_rect)).adjusted(0.5, 0.5, -0.5, -0.5);
-        painter.setPen(t.border);
-        painter.setBrush(t.surface);
-        painter.drawRoundedRect(card, measures::radius, measures::radius);
-        if (group.m_strName.IsEmpty())
-            return;
-        QRect title = rectOf(group.m_rect);
-        title.setBottom(group.m_rectGroup.top - 1);
-        title.adjust(measures::gap + measures::grid, 0, -measures::gap, 0);
-        if (group.m_hIcon) {
-            const QImage icon = imageOf(group.m_hIcon);
-            painter.drawImage(title.left(), title.center().y() - icon.height() / 2, icon);
-            title.setLeft(title.left() + icon.width() + measures::grid);
-        }
-        const bool hot = &group == hovered && collapsible;
-        const COLORREF chosen = hot && group.m_clrTextHot != CLR_DEFAULT ? group.m_clrTextHot : group.m_clrText;
-        QFont font = dialogFont();
-        font.setBold(group.m_bIsSpecial != FALSE);
-        painter.setFont(font);
-        painter.setPen(
-            chosen == CLR_DEFAULT ? t.text : readable(QColor(GetRValue(chosen), GetGValue(chosen), GetBValue(chosen))));
-        const QString name = QFontMetrics(font).elidedText(QString::fromStdWString(group.m_strName.GetString()),
-                                                           Qt::ElideRight, title.width() - (collapsible ? 16 : 0));
-        painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
-        if (collapsible)
-            painter.drawText(title, Qt::AlignRight | Qt::AlignVCenter,
-                             group.m_bIsCollapsed ? QStringLiteral("\u25B8") : QStringLiteral("\u25BE"));
-    }
-
-    const CMFCTasksPaneTaskGroup* hovered = nullptr;
-};
 
 class TasksWidget final : public QWidget
 {
 public:
-    explicit TasksWidget(QWidget* parent) : QWidget(parent), scroll(this), column(new Column)
+    explicit TasksWidget(QWidget* parent) : QWidget(parent), area(this), column(new TasksColumn)
     {
-        scroll.setFrameShape(QFrame::NoFrame);
-        scroll.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        scroll.setFocusPolicy(Qt::NoFocus);
-        scroll.setWidget(column);
-        scroll.viewport()->setAutoFillBackground(false);
-        column->setAutoFillBackground(false);
+        column->setParent(area.viewport());
+        column->show();
         column->relayout = [this] { layoutGroups(); };
-        connect(scroll.verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { wakeInSight(); });
+        area.onScroll = [this] { followScrolling(); };
         qApp->installEventFilter(this);
     }
 
     void layoutGroups();
     void wakeInSight();
     void wakeNow(HWND window);
+    void reveal(HWND window, const QWidget& part, int margin);
 
-    QScrollArea scroll;
-    Column* column;
+    TasksArea area;
+    TasksColumn* column;
 
 protected:
     // The Tab key passes over what is hidden, so what sleeps where it goes next wakes first. Where it goes comes into
@@ -165,14 +66,14 @@ protected:
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
             auto* focus = static_cast<QWidget*>(watched);
             if ((reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason) && column->isAncestorOf(focus))
-                scroll.ensureWidgetVisible(focus);
+                reveal(placedWindowOf(focus), *focus, focusMargin);
         }
         return false;
     }
     void resizeEvent(QResizeEvent*) override
     {
         const int strip = captionHeight();
-        scroll.setGeometry(0, strip, width(), std::max(height() - strip, 0));
+        area.setGeometry(0, strip, width(), std::max(height() - strip, 0));
         layoutGroups();
     }
     void paintEvent(QPaintEvent*) override
@@ -186,7 +87,12 @@ protected:
 
 private:
     static int captionHeight() { return logicalDpi() >= 120 ? 40 : 20; }
-    void layoutWithin(int width);
+    HWND placedWindowOf(QWidget* widget) const;
+    void findPlaces(int width);
+    void chooseOrigin();
+    void placeWindows(bool show);
+    void placeColumn();
+    void followScrolling();
     void wakeNextStop(bool forwards);
 
     std::vector<HWND> awake; // of the groups' windows; some may be gone
@@ -194,18 +100,10 @@ private:
     bool layingOut = false;
 };
 
-// Room for a card's title in its font, which grows with the display's resolution.
-int titleHeight()
+qint64 heightOf(const TaskGroups& groups)
 {
-    QFont font = dialogFont();
-    font.setBold(true);
-    return std::max(measures::cardTitle, QFontMetrics(font).height() + 2 * measures::grid);
-}
-
-int totalHeight(const TaskGroups& groups)
-{
-    const int title = titleHeight();
-    int height = measures::gap;
+    const int title = cardTitleHeight();
+    qint64 height = measures::gap;
     for (const auto& group : groups) {
         height += (group->m_strName.IsEmpty() ? measures::gap : title) + measures::gap;
         if (group->m_bIsCollapsed)
@@ -217,33 +115,65 @@ int totalHeight(const TaskGroups& groups)
     return height;
 }
 
-void TasksWidget::layoutWithin(int width)
+void TasksWidget::findPlaces(int width)
 {
-    const int title = titleHeight();
+    const int title = cardTitleHeight();
     const int left = measures::gap;
     const int inner = std::max(width - 2 * measures::gap, 0);
-    int y = measures::gap;
+    qint64 y = measures::gap;
     for (const auto& group : *column->groups) {
-        const int top = y;
+        CMFCTasksPaneTaskGroup::Place& place = group->place;
+        place.top = y;
         y += group->m_strName.IsEmpty() ? measures::gap : title;
-        const int body = y;
+        place.body = y;
+        if (!group->m_bIsCollapsed)
+            for (const CMFCTasksPaneTask& task : group->m_lstTasks)
+                y += task.m_nWindowHeight;
+        group->m_rectGroup = rectOf(left, place.body, inner, y);
+        y += group->m_bIsCollapsed ? 0 : measures::grid;
+        place.bottom = y;
+        group->m_rect = rectOf(left, place.top, inner, y);
+        y += measures::gap;
+    }
+}
+
+// The column stays where it is while it holds what is near the view, so that scrolling moves it alone.
+void TasksWidget::chooseOrigin()
+{
+    const qint64 page = area.height();
+    const qint64 last = std::max<qint64>(area.listHeight() - TasksColumn::reach, 0);
+    const qint64 offset = area.offset();
+    const bool holdsAbove = column->origin <= std::max<qint64>(offset - page, 0);
+    const bool holdsBelow =
+        std::min(offset + 2 * page, area.listHeight()) <= column->origin + TasksColumn::reach && column->origin <= last;
+    if (!holdsAbove || !holdsBelow)
+        column->origin = std::clamp<qint64>(offset - TasksColumn::reach / 2, 0, last);
+}
+
+void TasksWidget::placeWindows(bool show)
+{
+    for (const auto& group : *column->groups) {
+        const int left = group->m_rectGroup.left + measures::grid;
+        const int width = std::max(group->m_rectGroup.right - measures::grid - left, 0);
+        qint64 y = group->place.body;
         for (const CMFCTasksPaneTask& task : group->m_lstTasks) {
             if (group->m_bIsCollapsed) {
                 ShowWindow(task.m_hwndTask, SW_HIDE);
                 continue;
             }
-            const int height = task.m_nWindowHeight;
-            MoveWindow(task.m_hwndTask, left + measures::grid, y, std::max(inner - 2 * measures::grid, 0), height,
-                       TRUE);
-            buttonRoom.fit(task.m_hwndTask, height);
-            ShowWindow(task.m_hwndTask, SW_SHOW);
-            y += height;
+            MoveWindow(task.m_hwndTask, left, column->local(y), width, task.m_nWindowHeight, TRUE);
+            if (show) {
+                buttonRoom.fit(task.m_hwndTask, task.m_nWindowHeight);
+                ShowWindow(task.m_hwndTask, SW_SHOW);
+            }
+            y += task.m_nWindowHeight;
         }
-        group->m_rectGroup = rectOf(QRect(left, body, inner, y - body));
-        y += group->m_bIsCollapsed ? 0 : measures::grid;
-        group->m_rect = rectOf(QRect(left, top, inner, y - top));
-        y += measures::gap;
     }
+}
+
+void TasksWidget::placeColumn()
+{
+    column->move(0, static_cast<int>(column->origin - area.offset()));
 }
 
 void TasksWidget::layoutGroups()
@@ -251,16 +181,61 @@ void TasksWidget::layoutGroups()
     if (!column->groups)
         return;
     // The bar takes its width from the column only when it is needed.
-    const int total = totalHeight(*column->groups);
-    int columnWidth = scroll.width();
-    if (total > scroll.height())
-        columnWidth -= scroll.verticalScrollBar()->sizeHint().width();
+    const qint64 total = heightOf(*column->groups);
+    int columnWidth = area.width();
+    if (total > area.height())
+        columnWidth -= area.verticalScrollBar()->sizeHint().width();
     const bool outer = std::exchange(layingOut, true);
-    layoutWithin(columnWidth);
-    column->resize(std::max(columnWidth, 0), total);
+    findPlaces(columnWidth);
+    area.setListHeight(total);
+    chooseOrigin();
+    placeWindows(true);
+    column->resize(std::max(columnWidth, 0), static_cast<int>(std::min<qint64>(total, TasksColumn::reach)));
+    placeColumn();
     layingOut = outer;
     wakeInSight();
     column->update();
+}
+
+void TasksWidget::followScrolling()
+{
+    if (!column->groups || layingOut)
+        return;
+    const qint64 before = column->origin;
+    chooseOrigin();
+    if (column->origin != before)
+        placeWindows(false);
+    placeColumn();
+    wakeInSight();
+}
+
+HWND TasksWidget::placedWindowOf(QWidget* widget) const
+{
+    while (widget && widget->parentWidget() != column)
+        widget = widget->parentWidget();
+    return widget ? existingHandle(widget) : nullptr;
+}
+
+// Nothing for a window that stands in no open group.
+void TasksWidget::reveal(HWND window, const QWidget& part, int margin)
+{
+    if (!column->groups)
+        return;
+    for (const auto& group : *column->groups) {
+        qint64 y = group->place.body;
+        for (const CMFCTasksPaneTask& task : group->m_lstTasks) {
+            if (task.m_hwndTask == window && !group->m_bIsCollapsed) {
+                // Of a field that is higher than the view, the line with the cursor.
+                const QRect seen = part.height() <= area.height()
+                                       ? part.rect()
+                                       : part.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+                y += part.mapTo(window->widget(), seen.topLeft()).y();
+                area.reveal(y, y + seen.height(), margin);
+                return;
+            }
+            y += task.m_nWindowHeight;
+        }
+    }
 }
 
 void TasksWidget::wakeInSight()
@@ -268,12 +243,12 @@ void TasksWidget::wakeInSight()
     if (!column->groups || layingOut)
         return;
     // A page more on each side, so that a small step finds everything ready.
-    const int page = scroll.height(); // the viewport itself hears of its size only when it is shown
-    const int top = -column->y() - page;
-    const int bottom = top + 3 * page;
+    const int page = area.height();
+    const qint64 top = area.offset() - page;
+    const qint64 bottom = top + 3 * page;
     std::unordered_set<HWND> inSight;
     for (auto group = firstReaching(*column->groups, top); group != column->groups->end(); ++group) {
-        if ((*group)->m_rect.top > bottom)
+        if ((*group)->place.top > bottom)
             break;
         for (const CMFCTasksPaneTask& task : (*group)->m_lstTasks)
             inSight.insert(task.m_hwndTask);
@@ -377,7 +352,7 @@ void scrollTo(HWND pane, HWND window, HWND part)
 {
     if (TasksWidget* widget = tasksWidget(pane)) {
         widget->wakeNow(window);
-        widget->scroll.ensureWidgetVisible(part->widget(), 0, 0);
+        widget->reveal(window, *part->widget(), 0);
     }
 }
 } // namespace orvplatform

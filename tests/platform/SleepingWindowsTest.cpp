@@ -1,51 +1,9 @@
 // Windows of a tasks pane that lie out of sight: everything that can be asked of them is as if they were on show, and
 // they are there as soon as anybody looks.
 
-#include "Form.h"
-
-#include "afxtaskspane.h"
-#include "platform/qt/Gdi.h"
-#include "platform/qt/Native.h"
-
-#include <QApplication>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
-#include <QTest>
-
-#include <algorithm>
-#include <memory>
+#include "SleepingWindows.h"
 
 using namespace orvplatform::testing;
-
-namespace
-{
-constexpr int insideButton = 1000;
-constexpr int picture = 60;
-constexpr int label = 61;
-
-class Block : public CDialogEx
-{
-public:
-    Block() : CDialogEx(11) {}
-
-    std::vector<std::string> log;
-    CButton inside;
-    CStatic text;
-
-protected:
-    void DoDataExchange(CDataExchange* exchange) override
-    {
-        CDialogEx::DoDataExchange(exchange);
-        DDX_Control(exchange, insideButton, inside);
-        DDX_Control(exchange, label, text);
-    }
-    void OnInside() { log.emplace_back("inside"); }
-    void OnShowWindow(BOOL shown, UINT) { log.emplace_back(shown ? "shown" : "hidden"); }
-    void OnLButtonDown(UINT, CPoint) { log.emplace_back("click"); }
-    void OnDestroy() { log.emplace_back("destroyed"); }
-    DECLARE_MESSAGE_MAP()
-};
 
 BEGIN_MESSAGE_MAP(Block, CDialogEx)
 ON_BN_CLICKED(insideButton, &Block::OnInside)
@@ -53,67 +11,6 @@ ON_WM_SHOWWINDOW()
 ON_WM_LBUTTONDOWN()
 ON_WM_DESTROY()
 END_MESSAGE_MAP()
-
-// A pane in which three or four of forty blocks are in sight.
-class SleepingWindows : public ::testing::Test
-{
-protected:
-    static constexpr int count = 40;
-    static constexpr int last = count - 1;
-
-    SleepingWindows()
-    {
-        registerTestResources();
-        frame.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 320, 400), nullptr, 0);
-        EXPECT_TRUE(static_cast<CDockablePane&>(pane).Create(L"", &frame, CRect(0, 0, 0, 0), FALSE, 202,
-                                                             WS_CHILD | WS_VISIBLE));
-        pane.MoveWindow(0, -20, 320, 420);
-        for (auto& each : blocks) {
-            each = std::make_unique<Block>();
-            EXPECT_TRUE(each->Create(11, &pane));
-        }
-        for (auto& each : blocks)
-            place(*each);
-        frame.ShowWindow(SW_SHOW);
-        processEvents();
-        orvplatform::widgetOf(frame)->activateWindow();
-        EXPECT_TRUE(waitFor([this] { return orvplatform::widgetOf(frame)->isActiveWindow(); }));
-        if (QWidget* const first = QApplication::focusWidget())
-            first->clearFocus();
-    }
-
-    void place(Block& block) { pane.AddWindow(pane.AddGroup(L"x", FALSE, TRUE), block, 80); }
-    Block& block(int index) { return *blocks[static_cast<std::size_t>(index)]; }
-    QWidget& widget(int index) { return *orvplatform::widgetOf(block(index)); }
-    bool isDrawn(int index) { return widget(index).isVisible(); }
-    int drawn()
-    {
-        int found = 0;
-        for (int i = 0; i < count; ++i)
-            found += isDrawn(i) ? 1 : 0;
-        return found;
-    }
-    QScrollArea& area() { return *orvplatform::widgetOf(pane)->findChild<QScrollArea*>(); }
-    QScrollBar& bar() { return *area().verticalScrollBar(); }
-    bool isInSight(int index)
-    {
-        const QRect place(widget(index).mapTo(area().viewport(), QPoint()), widget(index).size());
-        return area().viewport()->rect().intersects(place);
-    }
-    static HWND focus() { return GetFocus(); }
-    HWND buttonOf(int index) { return ::GetDlgItem(block(index), insideButton); }
-    void pressTab(Qt::KeyboardModifiers modifiers = Qt::NoModifier)
-    {
-        QTest::keyClick(QApplication::focusWidget(), modifiers ? Qt::Key_Backtab : Qt::Key_Tab, modifiers);
-    }
-    // Its button is off, and so it is no stop of the Tab key.
-    void switchOff(int index) { ::EnableWindow(buttonOf(index), FALSE); }
-
-    CWnd frame;
-    CMFCTasksPane pane;
-    std::unique_ptr<Block> blocks[count];
-};
-} // namespace
 
 TEST_F(SleepingWindows, AreNotDrawnOutOfSight)
 {
@@ -218,102 +115,6 @@ TEST_F(SleepingWindows, WakeWhenThePaneGrows)
     pane.MoveWindow(0, -20, 320, 3020);
     EXPECT_TRUE(isInSight(20));
     EXPECT_TRUE(isDrawn(20));
-}
-
-TEST_F(SleepingWindows, TakeAClickAsSoonAsTheyAreAwake)
-{
-    bar().setValue(bar().maximum());
-    const QPoint at = orvplatform::widgetOf(block(last).inside)->geometry().center();
-    EXPECT_TRUE(clickAt(block(last), at.x(), at.y()));
-    EXPECT_TRUE(clickAt(block(last), widget(last).width() - 3, 3));
-    EXPECT_EQ(block(last).log, (std::vector<std::string>{"shown", "inside", "click"}));
-}
-
-TEST_F(SleepingWindows, WakeForTheTabKey)
-{
-    for (int i = 1; i < last; ++i)
-        switchOff(i);
-    ::SetFocus(buttonOf(0));
-    ASSERT_EQ(focus(), buttonOf(0));
-    pressTab();
-    EXPECT_EQ(focus(), buttonOf(last));
-    EXPECT_TRUE(isInSight(last));
-    EXPECT_FALSE(isDrawn(0));
-    pressTab(Qt::ShiftModifier);
-    EXPECT_EQ(focus(), buttonOf(0));
-    EXPECT_TRUE(isInSight(0));
-}
-
-TEST_F(SleepingWindows, WakeForTheTabKeyFromOutside)
-{
-    CButton outside;
-    ASSERT_TRUE(outside.Create(L"Outside", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 380, 50, 400), &frame, 7));
-    outside.SetFocus();
-    pressTab(Qt::ShiftModifier);
-    EXPECT_EQ(focus(), buttonOf(last));
-    EXPECT_TRUE(isInSight(last));
-    outside.SetFocus();
-    pressTab();
-    EXPECT_EQ(focus(), buttonOf(0));
-    EXPECT_TRUE(isInSight(0));
-}
-
-TEST_F(SleepingWindows, AreMadeForTheTabKeyOnlyWhereItStops)
-{
-    for (int i = 1; i < last; ++i)
-        switchOff(i);
-    ::SetFocus(buttonOf(0));
-    pressTab();
-    EXPECT_EQ(focus(), buttonOf(last));
-    EXPECT_TRUE(widget(20).findChildren<QPushButton*>().isEmpty());
-}
-
-TEST_F(SleepingWindows, ComeInTheirOrderForTheTabKeyWheneverTheyWereMade)
-{
-    bar().setValue(bar().maximum()); // made before those above them
-    bar().setValue(0);
-    std::vector<QWidget*> stops;
-    QWidget* const top = orvplatform::widgetOf(frame);
-    for (QWidget* at = top->nextInFocusChain(); at != top; at = at->nextInFocusChain())
-        if (qobject_cast<QPushButton*>(at))
-            stops.push_back(at->parentWidget());
-    std::vector<QWidget*> made;
-    for (int i = 0; i < count; ++i)
-        if (widget(i).findChild<QPushButton*>())
-            made.push_back(&widget(i));
-    EXPECT_EQ(stops, made);
-    EXPECT_LT(made.size(), std::size(blocks));
-    ::SetFocus(buttonOf(0));
-    for (int i = 1; i < count; ++i) {
-        pressTab();
-        ASSERT_EQ(focus(), buttonOf(i)) << i;
-        ASSERT_TRUE(isInSight(i)) << i;
-    }
-    for (int i = last - 1; i >= 0; --i) {
-        pressTab(Qt::ShiftModifier);
-        ASSERT_EQ(focus(), buttonOf(i)) << i;
-    }
-    EXPECT_LE(drawn(), 13);
-}
-
-TEST_F(SleepingWindows, WakeForTheFocus)
-{
-    ::SetFocus(buttonOf(last));
-    EXPECT_EQ(focus(), buttonOf(last));
-    EXPECT_TRUE(isDrawn(last));
-    EXPECT_TRUE(isInSight(last));
-}
-
-TEST_F(SleepingWindows, StayAwakeWhileTheyHaveTheFocus)
-{
-    ::SetFocus(buttonOf(0));
-    bar().setValue(bar().maximum());
-    EXPECT_FALSE(isInSight(0));
-    EXPECT_TRUE(isDrawn(0));
-    EXPECT_EQ(focus(), buttonOf(0));
-    ::SetFocus(buttonOf(last));
-    bar().setValue(bar().maximum() - 1);
-    EXPECT_FALSE(isDrawn(0));
 }
 
 TEST_F(SleepingWindows, AreHiddenWithTheirGroup)

@@ -3,7 +3,11 @@
 #include "support/PictureFiles.h"
 #include "ui/feed/FeedPaneFixture.h"
 
+#include "platform/qt/Native.h"
+
+#include <QAbstractScrollArea>
 #include <QImage>
+#include <QScrollBar>
 
 #include <map>
 
@@ -239,6 +243,30 @@ TEST_F(FeedPaneBadInputTest, AGoodRecordBehindManyBadOnesIsRight)
     EXPECT_EQ(placeOf(block(last), content), CRect(15, 110, 195, 150));
     EXPECT_EQ(textOf(block(last), date), L"Nov 15, 2026 16:11 PM");
     EXPECT_TRUE(isVisible(block(last), 1037));
+    EXPECT_TRUE(clickAt(block(last), 3, 3));
+    EXPECT_EQ(application->notifier->codes.back(), codes::viewRestored);
+}
+
+TEST_F(FeedPaneBadInputTest, ARecordBehindHundredsOfTheTallestPicturesCanBeReached)
+{
+    QImage tall(1, 16'384, QImage::Format_Mono);
+    tall.fill(1);
+    std::vector<Feed> feeds(800, withPicture(encoded(tall, "PNG")));
+    feeds.push_back(withPicture(encodedAs("PNG")));
+    loadRecords(feeds);
+    std::size_t const last = feeds.size() - 1;
+    EXPECT_EQ(heightOf(0), 16'384 * 180 + oneLine);
+    auto* const area = orvplatform::widgetOf(list())->findChild<QAbstractScrollArea*>();
+    area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+    processEvents();
+    EXPECT_EQ(heightOf(last), 90 + oneLine);
+    EXPECT_EQ(textOf(block(last), content), L"hello");
+    auto* const widget = orvplatform::widgetOf(block(last));
+    QRect const place(widget->mapTo(area->viewport(), QPoint()), widget->size());
+    EXPECT_TRUE(area->viewport()->rect().contains(place));
+    EXPECT_EQ(widget->height(), 90 + oneLine);
+    QImage const shown = area->viewport()->grab(place).toImage();
+    EXPECT_EQ(shown.pixelColor(15 + 3 * 5, 15 + 3 * 5), QColor(Qt::darkGreen)) << "its picture is seen";
     EXPECT_TRUE(clickAt(block(last), 3, 3));
     EXPECT_EQ(application->notifier->codes.back(), codes::viewRestored);
 }
