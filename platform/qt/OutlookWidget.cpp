@@ -77,7 +77,7 @@ HWND addPane(HWND tabs, HWND control, const std::wstring& title, bool canFloat, 
     auto* note =
         new QLabel(QObject::tr("This pane is shown in a window of its own. Close that window to bring it back."));
     note->setWordWrap(true);
-    note->setMargin(measures::gap);
+    note->setMargin(scaled(measures::gap));
     note->setAlignment(Qt::AlignTop);
     note->hide();
     auto* frame = new PaneFrame(*widget, page);

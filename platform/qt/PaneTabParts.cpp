@@ -55,7 +55,7 @@ QIcon pinIcon(bool pinned)
 
 Edge::Edge(QWidget* parent, std::function<void(int)> drag) : QWidget(parent), dragged(std::move(drag))
 {
-    setFixedWidth(measures::grid);
+    setFixedWidth(scaled(measures::grid));
     setCursor(Qt::SplitHCursor);
 }
 void Edge::mousePressEvent(QMouseEvent* event)

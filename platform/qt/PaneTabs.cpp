@@ -50,7 +50,8 @@ PaneTabs::PaneTabs(QWidget* parent)
     prepare(pinButton, {});
     pinButton.setObjectName(QStringLiteral("pin"));
     auto* header = new QHBoxLayout;
-    header->setContentsMargins(measures::grid, measures::grid, measures::grid, 0);
+    const int grid = scaled(measures::grid);
+    header->setContentsMargins(grid, grid, grid, 0);
     header->setSpacing(0);
     header->addWidget(&bar, 1);
     header->addWidget(&floatButton);
@@ -66,8 +67,8 @@ PaneTabs::PaneTabs(QWidget* parent)
     row->addLayout(column, 1);
     edge->hide();
     auto* icons = new QVBoxLayout(strip);
-    icons->setContentsMargins(measures::grid, measures::grid, measures::grid, measures::grid);
-    icons->setSpacing(measures::grid);
+    icons->setContentsMargins(grid, grid, grid, grid);
+    icons->setSpacing(grid);
     icons->addStretch(1);
     strip->hide();
     fitIcons();
@@ -103,7 +104,7 @@ void PaneTabs::setFloating(int index, bool floating)
     PaneFrame& frame = *pane->frame;
     if (floating) {
         const QSize size = frame.size();
-        const QPoint place = mapToGlobal(QPoint(-size.width() / 2, measures::cardTitle));
+        const QPoint place = mapToGlobal(QPoint(-size.width() / 2, scaled(measures::cardTitle)));
         slideIn();
         frame.setParent(window(), Qt::Tool);
         if (!frame.canResize)
@@ -266,7 +267,7 @@ void PaneTabs::fitIcons()
         button->setIconSize({own, own});
     // A list's pictures have the display's step already.
     QSize inTab(1, 1);
-    QSize inStrip(measures::smallIcon, measures::smallIcon);
+    QSize inStrip(own, own);
     for (std::size_t i = 0; i < panes.size(); ++i) {
         inTab = inTab.expandedTo(sizeOf(bar.tabIcon(static_cast<int>(i))));
         inStrip = inStrip.expandedTo(sizeOf(panes[i].opener->icon()));
@@ -274,9 +275,10 @@ void PaneTabs::fitIcons()
     bar.setIconSize(inTab);
     const int side = std::max(inStrip.width(), inStrip.height());
     strip->setFixedWidth(side * measures::foldedSideBar / measures::smallIcon);
+    const int opener = strip->width() - 2 * scaled(measures::grid);
     for (const Pane& pane : panes) {
         pane.opener->setIconSize(inStrip);
-        pane.opener->setFixedSize(strip->width() - 2 * measures::grid, strip->width() - 2 * measures::grid);
+        pane.opener->setFixedSize(opener, opener);
     }
     arrange();
     updateGeometry();

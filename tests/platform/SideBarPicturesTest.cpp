@@ -1,4 +1,5 @@
-// The pictures of the side bar's tabs and of the strip that stands in their place, at the display's four steps.
+// The pictures of the side bar's tabs and of the strip that stands in their place, at the display's four steps. The
+// measures that go by the display alone run once for each of its steps, which is that of QT_FONT_DPI.
 
 #include "Form.h"
 
@@ -16,10 +17,10 @@ namespace
 {
 constexpr DWORD floatHideResize = AFX_CBRS_FLOAT | AFX_CBRS_AUTOHIDE | AFX_CBRS_RESIZE;
 
-class SideBarPictures : public ::testing::TestWithParam<int> // side of a small picture, pixels
+class SideBarOfTwo : public ::testing::Test
 {
 protected:
-    SideBarPictures()
+    SideBarOfTwo()
     {
         ensureApplication();
         frame.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 600, 400), nullptr, 0);
@@ -28,10 +29,36 @@ protected:
             pane.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &bar, 300);
         frame.ShowWindow(SW_SHOW);
     }
+    CMFCOutlookBarTabCtrl& tabs() { return *bar.GetUnderlyingWindow(); }
+    QWidget& widget() { return *orvplatform::widgetOf(bar.m_hWnd); }
+    QTabBar& tabBar() { return *widget().findChild<QTabBar*>(); }
+    QToolButton& opener(const QString& title)
+    {
+        for (QToolButton* each : orvplatform::widgetOf(frame.m_hWnd)->findChildren<QToolButton*>())
+            if (each->accessibleName() == title)
+                return *each;
+        throw std::runtime_error("no such button");
+    }
+    void fold()
+    {
+        orvplatform::foldPanes(tabs().m_hWnd, true);
+        processEvents();
+    }
+
+    CWnd frame;
+    CMFCOutlookBar bar;
+    CWnd panes[2];
+};
+
+using SideBarMeasures = SideBarOfTwo;
+
+class SideBarPictures : public SideBarOfTwo,
+                        public ::testing::WithParamInterface<int> // side of a small picture, pixels
+{
+protected:
     static int small() { return GetParam(); }
     static int large() { return GetParam() * 3 / 2; }
 
-    CMFCOutlookBarTabCtrl& tabs() { return *bar.GetUnderlyingWindow(); }
     void addLarge(QColor colour)
     {
         CImageList list;
@@ -66,24 +93,6 @@ protected:
         EXPECT_EQ(count, found.width() * found.height()) << "in one piece";
         return found;
     }
-    QWidget& widget() { return *orvplatform::widgetOf(bar.m_hWnd); }
-    QTabBar& tabBar() { return *widget().findChild<QTabBar*>(); }
-    QToolButton& opener(const QString& title)
-    {
-        for (QToolButton* each : orvplatform::widgetOf(frame.m_hWnd)->findChildren<QToolButton*>())
-            if (each->accessibleName() == title)
-                return *each;
-        throw std::runtime_error("no such button");
-    }
-    void fold()
-    {
-        orvplatform::foldPanes(tabs().m_hWnd, true);
-        processEvents();
-    }
-
-    CWnd frame;
-    CMFCOutlookBar bar;
-    CWnd panes[2];
 };
 } // namespace
 
@@ -153,6 +162,32 @@ TEST_P(SideBarPictures, AreShownThoughTheListsComeAfterTheTab)
     EXPECT_EQ(squareIn(tabBar(), Qt::red).size(), QSize(large(), large()));
     fold();
     EXPECT_EQ(squareIn(opener("Feeds"), Qt::blue).size(), QSize(small(), small()));
+}
+
+TEST_F(SideBarMeasures, GrowWithTheDisplay)
+{
+    const int step = qEnvironmentVariableIntValue("QT_FONT_DPI"); // nothing stands for the plain one
+    const auto grown = [step](int pixels) { return pixels * (step == 0 ? 96 : step) / 96; };
+    tabs().AddControl(&panes[0], L"Feeds", -1, TRUE, floatHideResize);
+    bar.MoveWindow(200, 0, 400, 400);
+    processEvents();
+    const QTabBar& bars = tabBar(); // slid out it is the window's
+    int own = 0;
+    for (const QToolButton* each : widget().findChildren<QToolButton*>())
+        if (each->isVisible() && each->parentWidget() == bars.parentWidget()) {
+            EXPECT_EQ(each->iconSize(), QSize(grown(16), grown(16))) << each->toolTip().toStdString();
+            ++own;
+        }
+    EXPECT_EQ(own, 2) << "the pin and the way to a window of its own";
+    EXPECT_EQ(bars.pos(), QPoint(grown(4), grown(4)));
+    fold();
+    EXPECT_EQ(widget().sizeHint().width(), grown(36)) << "a strip of openers without pictures";
+    EXPECT_EQ(opener("Feeds").iconSize(), QSize(grown(16), grown(16)));
+    EXPECT_EQ(opener("Feeds").size(), QSize(grown(28), grown(28)));
+    EXPECT_EQ(opener("Feeds").pos(), QPoint(grown(4), grown(4)));
+    orvplatform::slidePaneOut(tabs().m_hWnd, 0);
+    processEvents();
+    EXPECT_EQ(bars.pos(), QPoint(2 * grown(4), grown(4))) << "beside the edge that is drawn to make it wider";
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, SideBarPictures, ::testing::Values(16, 20, 24, 32),
