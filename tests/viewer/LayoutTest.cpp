@@ -6,9 +6,11 @@
 
 #include "platform/qt/Look.h"
 #include "platform/qt/Native.h"
+#include "platform/qt/OutlookWidget.h"
 #include "platform/testing/ModalExpectation.h"
 #include "viewer/app/Language.h"
 #include "viewer/app/MainWindow.h"
+#include "viewer/app/ModelTree.h"
 #include "viewer/app/MovePanel.h"
 #include "viewer/app/StartPage.h"
 #include "viewer/commands/CommandId.h"
@@ -16,6 +18,7 @@
 
 #include <QDir>
 #include <QListWidget>
+#include <QScreen>
 #include <QToolButton>
 
 #include <afxcontrolbars.h>
@@ -62,6 +65,8 @@ protected:
         EXPECT_EQ(all, "");
         EXPECT_GE(restest::textCount(widget), texts);
     }
+    /// A measure of the plain resolution at the step that this run is of.
+    static int atStep(int pixels) { return pixels * qEnvironmentVariableIntValue("QT_FONT_DPI") / 96; }
     QWidget& ribbon() { return *orvplatform::widgetOf(session->ribbonBar().GetSafeHwnd()); }
 };
 
@@ -74,6 +79,30 @@ QSize roomForCaption(QToolButton const& button)
 }
 
 } // namespace
+
+TEST_P(ViewerLayout, TheWindowGrowsWithTheDisplay)
+{
+    auto& window = session->window();
+    EXPECT_EQ(window.size(), QSize(atStep(1440), atStep(900)));
+    window.show(); // without a change of its size
+    processEvents();
+    EXPECT_EQ(window.tree().width(), atStep(272));
+    auto const& bar = *orvplatform::widgetOf(session->sideBar().GetSafeHwnd());
+    EXPECT_EQ(bar.width(), atStep(320));
+    orvplatform::foldPanes(session->sideBar().getTabCtrl()->GetSafeHwnd(), true);
+    processEvents();
+    EXPECT_EQ(bar.width(), atStep(36));
+    EXPECT_EQ(window.tree().width(), atStep(272)) << "the view in the middle takes the room";
+}
+
+TEST_P(ViewerLayout, TheWindowIsMaximisedWhereTheScreenIsTooSmall)
+{
+    auto& window = session->window();
+    ASSERT_LT(window.screen()->availableSize().width(), window.width());
+    window.showOnScreen();
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(window.isMaximized());
+}
 
 TEST_P(ViewerLayout, TheStartPageFits)
 {

@@ -70,6 +70,29 @@ double distance(orvmath::Tuple<float, 3> const& a, orvmath::Tuple<float, 3> cons
 
 } // namespace
 
+TEST_F(WindowTest, StandsAtItsOwnSizeWhereTheScreenHasRoom)
+{
+    start();
+    auto& window = session->window();
+    QSize const own = window.size();
+    ASSERT_TRUE(window.screen()->availableGeometry().contains(QRect(QPoint(0, 0), own)));
+    window.showOnScreen();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_FALSE(window.isMaximized());
+    EXPECT_EQ(window.size(), own);
+}
+
+TEST_F(WindowTest, LeavesRoomForATitleBar)
+{
+    start();
+    auto& window = session->window();
+    QSize const screen = window.screen()->availableSize();
+    window.resize(screen); // with a title bar it would stand out of the screen
+    window.showOnScreen();
+    EXPECT_TRUE(window.windowState().testFlag(Qt::WindowMaximized));
+    EXPECT_LT(window.normalGeometry().height(), screen.height());
+}
+
 TEST_F(WindowTest, DraggingTurnsTheModel)
 {
     openCubes();

@@ -28,6 +28,9 @@ namespace
 using orvplatform::scaled;
 
 // At the plain resolution.
+constexpr int usualWidth = 1440;
+constexpr int usualHeight = 900;
+constexpr int titleBar = 32; ///< a good guess: the system's own isn't there before the window is
 constexpr int treeWidth = 272;
 constexpr int narrowestPart = 160; ///< of tree and view
 constexpr int foldedLimit = 120;   ///< a side bar that asks for less is folded to its strip
@@ -72,13 +75,23 @@ MainWindow::MainWindow()
     setCentralWidget(splitter);
     setStatusBar(statusLine);
     setAcceptDrops(true);
-    QSize const usual(1440, 900);
-    resize((usual * scaled(100) / 100).boundedTo(screen()->availableSize()).expandedTo(usual));
+    resize(scaled(usualWidth), scaled(usualHeight));
     splitter->setSizes({scaled(treeWidth), width() - scaled(treeWidth)});
     showModel({});
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::showOnScreen()
+{
+    QSize const room = screen()->availableSize() - QSize(0, scaled(titleBar));
+    if (size().boundedTo(room) == size()) {
+        show();
+        return;
+    }
+    resize(size().boundedTo(room)); // what it goes back to
+    showMaximized();
+}
 
 void MainWindow::setRibbon(QWidget* ribbon)
 {

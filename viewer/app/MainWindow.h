@@ -31,6 +31,9 @@ public:
     StatusLine& status() { return *statusLine; }
     StartPage& startPage() { return *start; }
 
+    /// Shows it for the first time: at its own size, or maximised where the screen has no room for that and a title
+    /// bar.
+    void showOnScreen();
     void setRibbon(QWidget* ribbon);
     /// Takes the side bar in; it shows at its width of 320 pixels, or as a strip where it is folded.
     void setSideBar(QWidget* bar);
