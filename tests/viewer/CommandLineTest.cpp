@@ -61,6 +61,24 @@ TEST(CommandLine, AnswersMistakesWithASentence)
     }
 }
 
+TEST(CommandLine, TellsTheFirstMistakeInTheLanguageThatFollowsIt)
+{
+    auto const line = read(
+        {"--frobnicate", "--language", "de", "--export", "a.prc", "--data", "/d", "--language=german", "--service"});
+    EXPECT_EQ(line.error, L"The option \"--frobnicate\" isn't known. Use --help to see all options.");
+    EXPECT_EQ(line.language, L"de") << "no code, no language";
+    EXPECT_EQ(line.dataDirectory, L"/d") << "the options' language is found by it";
+}
+
+TEST(CommandLine, AWrongLanguageIsNone)
+{
+    for (char const* const code : {"german", "DE", "d", ""}) {
+        auto const line = read({"--language", code});
+        EXPECT_EQ(line.error, L"The language must be a code of two letters, such as \"de\".") << code;
+        EXPECT_EQ(line.language, L"") << "the words of the answer are those of the options or the system";
+    }
+}
+
 TEST(CommandLine, KnowsTheSystemsLanguage)
 {
     orvtest::ScopedVariables const earlier{"LC_ALL"};

@@ -43,6 +43,19 @@ QString text(std::filesystem::path const& path)
     return QString::fromStdString(path.string());
 }
 
+/// Sets the language in the options of whose program it is.
+void setOptions(TemporaryFolder const& folder, std::wstring const& language)
+{
+    orvhost::Settings const earlier = orvhost::settings();
+    orvhost::Settings settings;
+    settings.dataDirectory = (folder.path / "data").wstring();
+    orvhost::configure(settings);
+    orvviewer::ViewerPreferences preferences;
+    preferences.language = language;
+    preferences.save();
+    orvhost::configure(earlier);
+}
+
 } // namespace
 
 TEST(Program, DrawsAPictureWithoutADisplay)
@@ -88,16 +101,7 @@ TEST(Program, AnswersInTheLanguageOfTheOptionsOrTheOneAskedFor)
         EXPECT_TRUE(errors.ends_with(german)) << errors;
     };
     expectGerman(QStringList{"--language", "de"} + arguments);
-    {
-        orvhost::Settings const earlier = orvhost::settings();
-        orvhost::Settings settings;
-        settings.dataDirectory = (folder.path / "data").wstring();
-        orvhost::configure(settings);
-        orvviewer::ViewerPreferences preferences;
-        preferences.language = L"de";
-        preferences.save();
-        orvhost::configure(earlier);
-    }
+    setOptions(folder, L"de");
     expectGerman(arguments);
     EXPECT_NE(runViewer(folder, QStringList{"--language", "en"} + arguments).errors.find("\"leer.step\" is empty."),
               std::string::npos);
@@ -145,6 +149,28 @@ TEST(Program, TellsItsOptionsAndMistakesInTheLanguage)
     auto const noDisplay = runViewer(folder, {"--language", "de"});
     EXPECT_EQ(noDisplay.status, 1);
     EXPECT_EQ(noDisplay.errors.rfind("orvanta: Es gibt keinen Bildschirm für ein Fenster.", 0), 0U) << noDisplay.errors;
+}
+
+TEST(Program, AnswersAMistakeInTheLanguageOfTheOptionsOrTheOneThatFollowsIt)
+{
+    TemporaryFolder const folder;
+    std::string const unknown =
+        "orvanta: Die Option „--frobnicate“ ist nicht bekannt. Mit --help werden alle Optionen angezeigt.\n";
+    EXPECT_EQ(runViewer(folder, {"--frobnicate", "--language", "de"}).errors, unknown);
+    setOptions(folder, L"de");
+    EXPECT_EQ(runViewer(folder, {"--frobnicate"}).errors, unknown);
+    auto const run = runViewer(folder, {"--language", "german"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.errors, "orvanta: Die Sprache muss ein Code aus zwei Buchstaben sein, zum Beispiel „de“.\n");
+}
+
+TEST(Program, MakesNoFolderToAnswer)
+{
+    TemporaryFolder const folder;
+    for (auto const& arguments : {QStringList{"--help"}, {"--version"}, {"--frobnicate"}, {}}) {
+        runViewer(folder, arguments);
+        EXPECT_FALSE(std::filesystem::exists(folder.path / "data")) << arguments.join(' ').toStdString();
+    }
 }
 
 TEST(Program, SaysThatAWindowNeedsADisplay)

@@ -149,6 +149,22 @@ TEST_P(LanguageFiles, AreAskedForWordsThatStandInTheSources)
     }
 }
 
+TEST_P(LanguageFiles, WriteTheMarksOfTheScript)
+{
+    if (GetParam() != "ja" && GetParam() != "zh") {
+        return; // the other six take the Latin marks
+    }
+    // Wide marks stand behind a wide letter; the brackets around a menu's letter are the toolkit's.
+    static QRegularExpression const narrow(
+        R"re([\p{Han}\p{Hiragana}\p{Katakana}] ?(?:[,:;!?]|\((?!&.\)))|\.[\p{Han}\p{Hiragana}\p{Katakana}])re",
+        QRegularExpression::UseUnicodePropertiesOption);
+    ASSERT_TRUE(QString::fromUtf8("画像 (.png)").contains(narrow));
+    ASSERT_TRUE(QString::fromUtf8("用法: orvanta").contains(narrow));
+    for (auto const& [text, translation] : translationsOf(GetParam())) {
+        EXPECT_FALSE(translation.contains(narrow)) << translation.toStdString();
+    }
+}
+
 TEST_P(LanguageFiles, SayNothingInEnglish)
 {
     // Words that are the same in the language; and names, units and marks.

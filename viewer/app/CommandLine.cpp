@@ -26,8 +26,14 @@ bool isLanguage(std::wstring const& code)
 CommandLine readCommandLine(int count, char const* const* arguments)
 {
     CommandLine line;
+    // The first mistake is the one that is told. What follows is read all the same: it may say in which language.
+    auto const complain = [&line](std::wstring const& sentence) {
+        if (line.error.empty()) {
+            line.error = sentence;
+        }
+    };
     bool onlyFiles = false;
-    for (int i = 1; i < count && line.error.empty(); ++i) {
+    for (int i = 1; i < count; ++i) {
         std::wstring argument = orvtext::fromUtf8(arguments[i]);
         if (argument == L"--" && !onlyFiles) {
             onlyFiles = true;
@@ -35,7 +41,7 @@ CommandLine readCommandLine(int count, char const* const* arguments)
         }
         if (onlyFiles || !argument.starts_with(L"-") || argument == L"-") {
             if (!line.file.empty()) {
-                line.error = L"Only one model can be opened at a time. Give one file.";
+                complain(L"Only one model can be opened at a time. Give one file.");
             }
             line.file = argument;
             continue;
@@ -59,12 +65,12 @@ CommandLine readCommandLine(int count, char const* const* arguments)
         std::wstring const option = argument;
         if (option != L"--service" && option != L"--data" && option != L"--language" && option != L"--export" &&
             option != L"--screenshot") {
-            line.error = L"The option \"" + option + L"\" isn't known. Use --help to see all options.";
-            break;
+            complain(L"The option \"" + option + L"\" isn't known. Use --help to see all options.");
+            continue;
         }
         if (!hasValue) {
-            line.error = L"The option \"" + option + L"\" needs a value. Use --help to see all options.";
-            break;
+            complain(L"The option \"" + option + L"\" needs a value. Use --help to see all options.");
+            continue;
         }
         if (equals == std::wstring::npos) {
             value = orvtext::fromUtf8(arguments[++i]);
@@ -74,9 +80,10 @@ CommandLine readCommandLine(int count, char const* const* arguments)
         } else if (option == L"--data") {
             line.dataDirectory = value;
         } else if (option == L"--language") {
-            line.language = value;
-            if (!isLanguage(value)) {
-                line.error = L"The language must be a code of two letters, such as \"de\".";
+            if (isLanguage(value)) {
+                line.language = value;
+            } else {
+                complain(L"The language must be a code of two letters, such as \"de\".");
             }
         } else if (option == L"--export") {
             line.exports.push_back(value);
@@ -84,8 +91,8 @@ CommandLine readCommandLine(int count, char const* const* arguments)
             line.screenshot = value;
         }
     }
-    if (line.error.empty() && line.isHeadless() && line.file.empty()) {
-        line.error = L"There is nothing to export or draw. Give a model file, too.";
+    if (line.isHeadless() && line.file.empty()) {
+        complain(L"There is nothing to export or draw. Give a model file, too.");
     }
     return line;
 }
@@ -99,7 +106,7 @@ std::wstring usage()
     static constexpr Option options[] = {
         {"--service URL", QT_TRANSLATE_NOOP("Orvanta", "address of the cloud service")},
         {"--data DIR", QT_TRANSLATE_NOOP("Orvanta", "where the user's data lies")},
-        {"--language CODE", QT_TRANSLATE_NOOP("Orvanta", "language of the windows, two letters")},
+        {"--language CODE", QT_TRANSLATE_NOOP("Orvanta", "language, two letters: en, fr, de, ja, ko, zh, es or pt")},
         {"--export OUT",
          QT_TRANSLATE_NOOP("Orvanta", "write FILE to OUT in the format of its ending and exit; may be repeated")},
         {"--screenshot OUT", QT_TRANSLATE_NOOP("Orvanta", "draw FILE to a picture (.png, .jpg) and exit")},

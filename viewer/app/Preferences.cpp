@@ -1,10 +1,10 @@
 #include "viewer/app/Preferences.h"
 
 #include "host/orv/FileUtils.h"
+#include "host/runtime/Runtime.h"
 
 #include <QSettings>
-
-#include <optional>
+#include <QString>
 
 namespace orvviewer
 {
@@ -12,12 +12,8 @@ namespace orvviewer
 namespace
 {
 
-std::optional<QString> settingsPath()
+QString fileIn(std::wstring const& folder)
 {
-    std::wstring folder;
-    if (!orv::FileUtils::getAppDataPath(folder)) {
-        return std::nullopt;
-    }
     return QString::fromStdWString(orv::FileUtils::join(folder, L"viewer.ini"));
 }
 
@@ -25,22 +21,22 @@ std::optional<QString> settingsPath()
 
 ViewerPreferences ViewerPreferences::load()
 {
+    // Who only looks makes no folder: `--help` leaves nothing behind.
+    QSettings const file(fileIn(orvhost::settings().dataDirectory), QSettings::IniFormat);
     ViewerPreferences result;
-    if (auto const path = settingsPath()) {
-        QSettings const file(*path, QSettings::IniFormat);
-        result.showAxisCross = file.value("view/axisCross", result.showAxisCross).toBool();
-        result.showViewCube = file.value("view/viewCube", result.showViewCube).toBool();
-        result.startInPerspective = file.value("view/perspective", result.startInPerspective).toBool();
-        result.showTree = file.value("window/tree", result.showTree).toBool();
-        result.language = file.value("window/language").toString().toStdWString();
-    }
+    result.showAxisCross = file.value("view/axisCross", result.showAxisCross).toBool();
+    result.showViewCube = file.value("view/viewCube", result.showViewCube).toBool();
+    result.startInPerspective = file.value("view/perspective", result.startInPerspective).toBool();
+    result.showTree = file.value("window/tree", result.showTree).toBool();
+    result.language = file.value("window/language").toString().toStdWString();
     return result;
 }
 
 void ViewerPreferences::save() const
 {
-    if (auto const path = settingsPath()) {
-        QSettings file(*path, QSettings::IniFormat);
+    std::wstring folder;
+    if (orv::FileUtils::getAppDataPath(folder)) {
+        QSettings file(fileIn(folder), QSettings::IniFormat);
         file.setValue("view/axisCross", showAxisCross);
         file.setValue("view/viewCube", showViewCube);
         file.setValue("view/perspective", startInPerspective);

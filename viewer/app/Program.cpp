@@ -57,15 +57,15 @@ public:
         useViewerLanguage(chooseLanguage(line.language, ViewerPreferences::load().language));
     }
 
-    static void complain(std::wstring const& sentence)
-    {
-        std::cerr << "orvanta: " << orvtext::toUtf8(localizedSentence(sentence)) << std::endl;
-    }
-
 private:
     int number; // the application refers to it
     QCoreApplication application;
 };
+
+void complain(std::wstring const& sentence)
+{
+    std::cerr << "orvanta: " << orvtext::toUtf8(localizedSentence(sentence)) << std::endl;
+}
 
 } // namespace
 
@@ -73,7 +73,8 @@ int runProgram(int count, char** arguments)
 {
     auto const line = readCommandLine(count, arguments);
     if (!line.error.empty()) {
-        EarlyWords(count, arguments, line).complain(line.error);
+        EarlyWords const words(count, arguments, line);
+        complain(line.error);
         return usageError;
     }
     if (line.wantsHelp) {
@@ -87,9 +88,9 @@ int runProgram(int count, char** arguments)
     }
     bool const hasDisplay = !qEnvironmentVariableIsEmpty("DISPLAY") || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
     if (!line.isHeadless() && !hasDisplay) {
-        EarlyWords(count, arguments, line)
-            .complain(L"There is no display to open a window on. Start it from a desktop session, or use --export or "
-                      L"--screenshot.");
+        EarlyWords const words(count, arguments, line);
+        complain(L"There is no display to open a window on. Start it from a desktop session, or use --export or "
+                 L"--screenshot.");
         return 1;
     }
     choosePlatform(line.isHeadless());
@@ -108,7 +109,7 @@ int runProgram(int count, char** arguments)
     orvplatform::applyLook(application);
     settings.dpi = orvplatform::logicalDpi();
     ViewerSession session(std::move(settings));
-    session.window().show();
+    session.window().showOnScreen();
     if (!line.file.empty()) {
         QTimer::singleShot(0, &session.window(), [&] { session.openModel(line.file); });
     }

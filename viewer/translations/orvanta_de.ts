@@ -709,8 +709,8 @@
         <translation>Ordner für die Daten des Benutzers</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>Sprache der Fenster, zwei Buchstaben</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>Sprache, zwei Buchstaben: en, fr, de, ja, ko, zh, es oder pt</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>

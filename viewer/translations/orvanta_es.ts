@@ -709,8 +709,8 @@
         <translation>carpeta de los datos del usuario</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>idioma de las ventanas, dos letras</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>idioma, dos letras: en, fr, de, ja, ko, zh, es o pt</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>

@@ -709,8 +709,8 @@
         <translation>dossier des données de l'utilisateur</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>langue des fenêtres, deux lettres</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>langue, deux lettres : en, fr, de, ja, ko, zh, es ou pt</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>

@@ -691,11 +691,11 @@
     </message>
     <message>
         <source>Usage: orvanta [FILE] [OPTION]...</source>
-        <translation>使い方: orvanta [FILE] [OPTION]...</translation>
+        <translation>使い方：orvanta [FILE] [OPTION]...</translation>
     </message>
     <message>
         <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
-        <translation>3D CAD モデルの表示とレビュー: STEP、IGES、BREP、STL、OBJ、glTF。</translation>
+        <translation>3D CAD モデルの表示とレビュー：STEP、IGES、BREP、STL、OBJ、glTF。</translation>
     </message>
     <message>
         <source>address of the cloud service</source>
@@ -706,8 +706,8 @@
         <translation>ユーザーデータのフォルダー</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>ウィンドウの言語（2 文字）</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>言語（2 文字：en、fr、de、ja、ko、zh、es、pt）</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
@@ -715,7 +715,7 @@
     </message>
     <message>
         <source>draw FILE to a picture (.png, .jpg) and exit</source>
-        <translation>FILE を画像 (.png、.jpg) に描画して終了</translation>
+        <translation>FILE を画像（.png、.jpg）に描画して終了</translation>
     </message>
     <message>
         <source>show this text and exit</source>

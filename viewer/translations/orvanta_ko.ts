@@ -706,8 +706,8 @@
         <translation>사용자 데이터 폴더</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>창의 언어(두 글자)</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>언어(두 글자: en, fr, de, ja, ko, zh, es, pt)</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>

@@ -709,8 +709,8 @@
         <translation>pasta dos dados do usuário</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>idioma das janelas, duas letras</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>idioma, duas letras: en, fr, de, ja, ko, zh, es ou pt</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>

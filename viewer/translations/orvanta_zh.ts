@@ -691,7 +691,7 @@
     </message>
     <message>
         <source>Usage: orvanta [FILE] [OPTION]...</source>
-        <translation>用法: orvanta [FILE] [OPTION]...</translation>
+        <translation>用法：orvanta [FILE] [OPTION]...</translation>
     </message>
     <message>
         <source>Views and reviews 3D CAD models: STEP, IGES, BREP, STL, OBJ and glTF.</source>
@@ -706,8 +706,8 @@
         <translation>用户数据所在的文件夹</translation>
     </message>
     <message>
-        <source>language of the windows, two letters</source>
-        <translation>窗口的语言，两个字母</translation>
+        <source>language, two letters: en, fr, de, ja, ko, zh, es or pt</source>
+        <translation>语言，两个字母：en、fr、de、ja、ko、zh、es 或 pt</translation>
     </message>
     <message>
         <source>write FILE to OUT in the format of its ending and exit; may be repeated</source>
