@@ -216,6 +216,25 @@ TEST_F(KeyboardTest, EscapeLeadsFromTheRibbonBack)
     EXPECT_EQ(place(), "side bar");
 }
 
+TEST_F(KeyboardTest, EscapeLeadsFromTheRibbonBackToAPaneInAWindowOfItsOwn)
+{
+    openCubes();
+    orvplatform::floatPane(tabs(), 0, true);
+    auto& pane = *orvplatform::widgetOf(session->sideBar().getTabCtrl()->GetTabWnd(0)->GetSafeHwnd())->window();
+    ASSERT_NE(&pane, &session->window());
+    for (auto const key : {Qt::Key_F6, Qt::Key_F10}) {
+        pane.activateWindow();
+        ASSERT_TRUE(waitFor([&] { return pane.isActiveWindow(); }));
+        auto const* const before = QApplication::focusWidget();
+        ASSERT_EQ(place(), "side bar");
+        press(key);
+        ASSERT_TRUE(waitFor([this] { return place() == "ribbon" && session->window().isActiveWindow(); })) << place();
+        press(Qt::Key_Escape);
+        EXPECT_TRUE(waitFor([&] { return pane.isActiveWindow(); }));
+        EXPECT_EQ(QApplication::focusWidget(), before);
+    }
+}
+
 TEST_F(KeyboardTest, TheTabKeyReachesEveryEnabledButtonOfTheRibbon)
 {
     openCubes();

@@ -166,13 +166,27 @@ TEST_F(PluginHostTest, TheFirstModelsSentenceSaysAgainWhichLibrariesFailed)
     auto const cubes = writeThreeCubes(folder.path);
     ASSERT_TRUE(session->openModel(cubes.wstring()));
     auto const opened = cubes.filename().string().insert(0, 1, '"') + "\" is open.";
-    EXPECT_EQ(status(), opened +
-                            " The library \"cloudplugin.so\" lacks the function \"createPlugin\". Install Orvanta again "
-                            "and start it anew. The library \"Empty.so\" made no plug-in. The viewer works on without "
-                            "it; install the plug-in again to get it back.");
+    EXPECT_EQ(status(),
+              opened + " The library \"cloudplugin.so\" lacks the function \"createPlugin\". Install Orvanta again "
+                       "and start it anew. The library \"Empty.so\" made no plug-in. The viewer works on without "
+                       "it; install the plug-in again to get it back.");
     session->closeModel();
     ASSERT_TRUE(session->openModel(cubes.wstring()));
     EXPECT_EQ(status(), opened) << "once is enough";
+}
+
+TEST_F(PluginHostTest, TheFirstModelsSentenceIsInTheViewersLanguage)
+{
+    install("NoEntry");
+    installBeside("Empty");
+    start(L"de");
+    auto const cubes = writeThreeCubes(folder.path);
+    ASSERT_TRUE(session->openModel(cubes.wstring()));
+    EXPECT_EQ(status(), "„" + cubes.filename().string() +
+                            "“ ist geöffnet. Der Bibliothek „cloudplugin.so“ fehlt die Funktion „createPlugin“. "
+                            "Installieren Sie Orvanta erneut, und starten Sie es neu. Die Bibliothek „Empty.so“ hat "
+                            "kein Zusatzmodul geliefert. Das Programm arbeitet ohne es weiter; installieren Sie es "
+                            "erneut, um es zurückzubekommen.");
 }
 
 TEST_F(PluginHostTest, APluginThatThrowsEverywhereIsSurvived)

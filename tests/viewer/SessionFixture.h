@@ -46,13 +46,13 @@ protected:
         }
     }
 
-    orvviewer::ViewerSession& start()
+    orvviewer::ViewerSession& start(wchar_t const* language = L"en")
     {
         session.reset();
         orvhost::Settings settings;
         settings.dataDirectory = (folder.path / "data").wstring();
         settings.libraryDirectory = (folder.path / "lib").wstring();
-        settings.language = L"en";
+        settings.language = language;
         session = std::make_unique<orvviewer::ViewerSession>(settings);
         return *session;
     }
