@@ -48,9 +48,17 @@ QStringList nameFilters(const std::wstring& pairs)
 // in the dialog isn't in them. May be empty.
 QString proposable(LPCWSTR name)
 {
-    QString text = QString::fromWCharArray(name ? name : L"").section(u'/', -1);
+    std::u32string characters = QString::fromWCharArray(name ? name : L"").section(u'/', -1).toStdU32String();
     std::replace_if(
-        text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; }, QChar(u'_'));
+        characters.begin(), characters.end(),
+        [](char32_t c) {
+            const QChar::Category kind = QChar::category(c);
+            // Among the marks of format are those that turn the order of the letters about.
+            return kind == QChar::Other_Control || kind == QChar::Other_Format || kind == QChar::Separator_Line ||
+                   kind == QChar::Separator_Paragraph;
+        },
+        U'_');
+    const QString text = QString::fromStdU32String(characters);
     return text == u"." || text == u".." ? QString() : text;
 }
 

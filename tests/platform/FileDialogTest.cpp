@@ -98,7 +98,11 @@ TEST(FileDialog, AsksForAFileWithTheGivenFilterAndExtension)
                        {L"bracket./etc/passwd", L"/etc/passwd", "passwd", "passwd"},
                        {L"bracket...", L"..", "bracket...", ""},
                        {L"bracket./..", L"/..", "", ""},
-                       {L"bracket.s\ntl", L"s\ntl", "bracket.s_tl", "s_tl"}};
+                       {L"bracket.s\ntl", L"s\ntl", "bracket.s_tl", "s_tl"},
+                       // Shown, this would read as "bracketlts.exe" spelled backwards; and lines end here, too.
+                       {L"bracket\u202Eexe.stl", L"s\u202Etl", "bracket_exe.stl", "s_tl"},
+                       {L"a\u200B\u2066b\uFEFFc.stl", L"stl", "a__b_c.stl", "stl"},
+                       {L"a\u2028b\u2029c.\U000E0041\U0001F600", L"\u2028csv", "a_b_c._\U0001F600", "_csv"}};
     for (const auto& one : names) {
         CFileDialog asked(FALSE, one.extension, one.name, 6, L"");
         EXPECT_EQ(ask(
@@ -119,7 +123,10 @@ TEST(FileDialog, AsksForAFileWithTheGivenFilterAndExtension)
 TEST(FileDialog, KeepsAPathOfAnyLengthWhole)
 {
     registerTestResources();
-    const std::wstring longPath = L"/" + std::wstring(200, L'a') + L"/" + std::wstring(200, L'b') + L"/c.stl";
+    std::wstring longPath;
+    while (longPath.size() < MAX_PATH)
+        longPath += L"/" + std::wstring(200, L'a');
+    longPath += L"/c.stl"; // longer than the room that there is at first
     CFileDialog dialog(FALSE, L"stl", L"bracket.stl", 6, L"");
     dialog.TakePath(longPath);
     EXPECT_EQ(dialog.GetPathName(), longPath.c_str());
