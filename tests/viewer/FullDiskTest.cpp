@@ -58,7 +58,7 @@ protected:
 
 TEST_F(FullDisk, IsTheReasonAndTheEarlierFileStays)
 {
-    for (char const* const kind : {"3ds", "obj", "stl", "pdf", "bompdf", "prc", "orvanta"}) {
+    for (char const* const kind : {"3ds", "obj", "stl", "pdf", "csv", "bompdf", "prc", "orvanta"}) {
         auto const name = std::string("cubes.") + kind;
         writeFile(disk / name, "earlier"); // which takes the only page that there is
         expectRefusal(name, orvexp::Status::diskFull, "the disk is full. Make room, or choose another disk.");
@@ -74,7 +74,7 @@ TEST_F(FullDisk, ThatCanOnlyBeReadIsAReasonOfItsOwn)
 {
     writeFile(disk / "cubes.stl", "earlier");
     ASSERT_EQ(::mount("tmpfs", disk.c_str(), "tmpfs", MS_REMOUNT | MS_RDONLY, "size=4k"), 0);
-    for (char const* const kind : {"stl", "csv", "prc"}) {
+    for (char const* const kind : {"3ds", "obj", "stl", "pdf", "csv", "bompdf", "prc"}) {
         expectRefusal(std::string("cubes.") + kind, orvexp::Status::readOnlyDisk,
                       "its disk is read-only. Choose another disk.");
     }

@@ -1,19 +1,39 @@
 // Saves by the exporters of the build, asked for as the viewer's own command and as plug-ins ask for them.
 
-#include "tests/exporters/CommandOutput.h"
+#include "tests/exporters/FileSizeLimit.h"
+#include "tests/exporters/mesh/PartsScene.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/viewer/SaveOutcomes.h"
 #include "tests/viewer/SessionFixture.h"
 
 #include "host/orvexp/Status.h"
+#include "viewer/app/Exporting.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/StatusLine.h"
 
 #include <QGuiApplication>
 #include <QProgressBar>
 
+#include <cerrno>
+#include <new>
+
+#include <sys/syscall.h>
+#include <unistd.h>
+
 using namespace orvtest;
 using orvexp::Status;
+
+namespace
+{
+int failureOfSync = 0; ///< of the exporters' files on their way to the disk; 0 for none
+}
+
+// In the system's place, for the exporters' libraries, too.
+extern "C" int fsync(int file)
+{
+    errno = failureOfSync;
+    return failureOfSync != 0 ? -1 : static_cast<int>(syscall(SYS_fsync, file));
+}
 
 namespace
 {
@@ -101,30 +121,71 @@ TEST_F(Saving, EachReasonHasASentenceOfItsOwn)
         Status reason;
         std::string sentence;
     };
-    std::filesystem::create_directory(output / "folder.stl");
-    std::filesystem::permissions(writeFile(output / "kept.stl", "kept"), std::filesystem::perms::owner_read);
-    std::string const longName = std::string(252, 'n') + ".stl";
-    std::string const deep = std::string(256, 'f') + "/a.stl";
-    for (auto const& [name, reason, sentence] :
-         {Case{"folder.stl", Status::isFolder,
-               "\"folder.stl\" can't be written: it is a folder. Choose a name for the file."},
-          Case{"kept.stl", Status::isProtected,
-               "\"kept.stl\" can't be written: it is protected against writing. Choose another name."},
-          Case{"none/a.stl", Status::noFolder,
-               "\"a.stl\" can't be written: its folder doesn't exist. Choose another folder."},
-          Case{longName, Status::nameTooLong,
-               inQuotes(longName) + " can't be written: its name is too long. Choose a shorter name."},
-          Case{deep, Status::pathTooLong,
-               "\"a.stl\" can't be written: the path of its folder is too long. Choose a folder with a shorter path."},
-          Case{"a.xyz", Status::noLibrary,
-               "\"a.xyz\" can't be saved: its exporter isn't installed. Choose another format."}}) {
-        EXPECT_FALSE(session->exportModel((output / name).wstring()));
-        EXPECT_EQ(status(), sentence);
-        EXPECT_EQ(save(output / name), static_cast<int>(reason));
-        EXPECT_EQ(status(), sentence);
+    for (std::string const kind : {"3ds", "obj", "stl", "pdf", "csv", "bompdf", "dae", "orvanta", "prc"}) {
+        std::string const directory = "folder." + kind;
+        std::string const kept = "kept." + kind;
+        std::string const other = "a." + kind;
+        std::string const longName = std::string(256 - kind.size(), 'n') + '.' + kind;
+        std::filesystem::create_directory(output / directory);
+        std::filesystem::permissions(writeFile(output / kept, "kept"), std::filesystem::perms::owner_read);
+        for (auto const& [name, reason, why] :
+             {Case{directory, Status::isFolder, "it is a folder. Choose a name for the file."},
+              Case{kept, Status::isProtected, "it is protected against writing. Choose another name."},
+              Case{"none/" + other, Status::noFolder, "its folder doesn't exist. Choose another folder."},
+              Case{longName, Status::nameTooLong, "its name is too long. Choose a shorter name."},
+              Case{std::string(256, 'f') + '/' + other, Status::pathTooLong,
+                   "the path of its folder is too long. Choose a folder with a shorter path."}}) {
+            auto const sentence = inQuotes(name.filename()) + " can't be written: " + why;
+            EXPECT_FALSE(session->exportModel((output / name).wstring()));
+            EXPECT_EQ(status(), sentence);
+            EXPECT_EQ(save(output / name), static_cast<int>(reason));
+            EXPECT_EQ(status(), sentence);
+        }
+        EXPECT_EQ(contentOf(output / kept), "kept");
+        EXPECT_TRUE(std::filesystem::is_empty(output / directory));
+        EXPECT_EQ(filesInOutput(), 2U) << kind;
+        std::filesystem::remove(output / directory);
+        std::filesystem::remove(output / kept);
     }
-    EXPECT_EQ(contentOf(output / "kept.stl"), "kept");
-    EXPECT_EQ(filesInOutput(), 2U);
+    EXPECT_EQ(save(output / "a.xyz"), static_cast<int>(Status::noLibrary));
+    EXPECT_EQ(status(), "\"a.xyz\" can't be saved: its exporter isn't installed. Choose another format.");
+}
+
+TEST_F(Saving, ReasonsThatAreRareHaveTheirSentencesToo)
+{
+    /// Runs out of memory as soon as it is told of any progress.
+    struct NoMemory final : orv::IStatusManager {
+        void setProgress(int const&, int) override { throw std::bad_alloc(); }
+        void showProgress(int, int) override {}
+    } noMemory;
+    auto const document = TestScene().document;
+    auto const file = output / "a.3ds";
+    auto const sentenceOf = [](Status reason, orvviewer::ExportResult const& result) {
+        EXPECT_EQ(result.status, static_cast<int>(reason));
+        return orvtext::toUtf8(result.message);
+    };
+    using orvviewer::exportDocument;
+    EXPECT_EQ(sentenceOf(Status::ok, exportDocument(document, file.wstring(), nullptr)), "\"a.3ds\" was saved.");
+    std::filesystem::remove(file);
+    EXPECT_EQ(sentenceOf(Status::nothingToWrite, exportDocument(nullptr, file.wstring(), nullptr)),
+              "There is nothing to save in this format. Open a model with parts first.");
+    std::vector<std::wstring> const names(16384, L"part");
+    EXPECT_EQ(sentenceOf(Status::modelTooLarge, exportDocument(PartsScene(names).document, file.wstring(), nullptr)),
+              "\"a.3ds\" can't be saved: the model is too large for this format. Choose another format.");
+    EXPECT_EQ(sentenceOf(Status::noMemory, exportDocument(document, file.wstring(), &noMemory)),
+              "\"a.3ds\" can't be written: the memory is full. Close other programs and try again.");
+    EXPECT_EQ(sentenceOf(Status::cannotWrite, exportDocument(document, L"/proc/a.3ds", nullptr)),
+              "\"a.3ds\" can't be written. Check the folder and the free space, or choose another place.");
+    {
+        prctest::FileSizeLimit const limit(10);
+        EXPECT_EQ(sentenceOf(Status::fileTooLarge, exportDocument(document, file.wstring(), nullptr)),
+                  "\"a.3ds\" can't be written: its disk takes no file of this size. Choose another disk.");
+    }
+    failureOfSync = EDQUOT;
+    EXPECT_EQ(sentenceOf(Status::overQuota, exportDocument(document, file.wstring(), nullptr)),
+              "\"a.3ds\" can't be written: your quota is used up. Make room, or choose another disk.");
+    failureOfSync = 0;
+    EXPECT_EQ(filesInOutput(), 0U);
 }
 
 TEST_F(Saving, FileBesideThatStandsInTheWayIsTheOneNamed)
@@ -153,7 +214,8 @@ TEST_F(Saving, FolderOfSomebodyElseIsAReason)
     std::filesystem::permissions(locked, perms::owner_read | perms::owner_exec);
     {
         OrdinaryUser const user(folder.path);
-        for (char const* const name : {"a.stl", "a.csv", "a.prc"}) {
+        for (char const* const name :
+             {"a.3ds", "a.obj", "a.stl", "a.pdf", "a.csv", "a.bompdf", "a.dae", "a.orvanta", "a.prc"}) {
             EXPECT_FALSE(session->exportModel((locked / name).wstring()));
             EXPECT_EQ(status(),
                       inQuotes(name) + " can't be written: you may not write to its folder. Choose another folder.");
