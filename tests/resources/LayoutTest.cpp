@@ -255,11 +255,12 @@ TEST_P(LayoutTest, TheWindowsAreOnAContactSheet)
             sheet.add(title, orvplatform::widgetOf(window)->grab().toImage());
         };
     };
-    auto const keepTop = [&sheet](char const* title, int height) -> Look {
-        return [&sheet, title, height](CWnd& window) {
+    auto const keepCards = [this, &sheet](char const* title) -> Look {
+        return [this, &sheet, title](CWnd& window) {
             QWidget& widget = *orvplatform::widgetOf(window);
-            auto const shown = static_cast<int>(height * orvplatform::logicalDpi() / 96.0);
-            sheet.add(title, widget.grab(QRect(0, 0, widget.width(), shown)).toImage());
+            QWidget const& last = *orvplatform::widgetOf(groups().back().window);
+            int const end = last.mapTo(&widget, QPoint(0, last.height())).y() + orvplatform::scaled(16);
+            sheet.add(title, widget.grab(QRect(0, 0, widget.width(), end)).toImage());
         };
     };
     showSignIn(keep("Sign in"));
@@ -268,9 +269,9 @@ TEST_P(LayoutTest, TheWindowsAreOnAContactSheet)
     signIn();
     showOptions(keep("Options, signed in"));
     user->userid.clear();
-    showPane(keepTop("Side bar, signed out", 260), {});
+    showPane(keepCards("Side bar, signed out"), {});
     user->userid = token;
-    showPane(keepTop("Side bar, signed in", 560), oneComment());
+    showPane(keepCards("Side bar, signed in"), oneComment());
 
     QImage const picture = sheet.draw();
     QString const folder = QStringLiteral(ORV_BINARY_DIR "/pictures");
