@@ -9,7 +9,9 @@
 #include <assimp/ProgressHandler.hpp>
 #include <assimp/scene.h>
 
+#include <filesystem>
 #include <new>
+#include <string>
 
 namespace meshwriters
 {
@@ -36,6 +38,30 @@ private:
     orvexport::Progress& progress;
 };
 
+/// The path by which Assimp knows the wanted file, and from which it makes the name of a file beside it, which then
+/// stands in a line of text: without the characters that would end the line or the name. It is another file's only
+/// where nobody has a model of that name, whose file beside it would be replaced.
+std::filesystem::path nameableIn(std::filesystem::path const& path)
+{
+    std::string stem = path.stem().string();
+    for (char& c : stem) {
+        auto const code = static_cast<unsigned char>(c);
+        if (code < 0x20 || code == 0x7F || c == '\\') {
+            c = '_';
+        }
+    }
+    if (stem == path.stem().string()) {
+        return path;
+    }
+    std::error_code unknown;
+    auto const named = [&](std::string const& name) { return path.parent_path() / (name + path.extension().string()); };
+    auto result = named(stem);
+    for (int number = 2; std::filesystem::exists(result, unknown); ++number) {
+        result = named(stem + '_' + std::to_string(number));
+    }
+    return result;
+}
+
 } // namespace
 
 MeshExporter::MeshExporter(Format const& written)
@@ -60,10 +86,11 @@ void MeshExporter::write(orvexport::Job const& job)
         throw orvexport::OutputError(orvexp::Status::modelTooLarge, "the format can't count so many parts");
     }
     Assimp::Exporter exporter;
-    auto* const output = new OutputSystem(job.path, job.file); // the exporter's from here on, as is the bridge
+    auto const named = nameableIn(job.path);
+    auto* const output = new OutputSystem(named, job.file); // the exporter's from here on, as is the bridge
     exporter.SetIOHandler(output);
     exporter.SetProgressHandler(new ProgressBridge(job.progress));
-    aiReturn const result = exporter.Export(scene.get(), format.assimpId, job.path.c_str());
+    aiReturn const result = exporter.Export(scene.get(), format.assimpId, named.c_str());
     output->check();
     if (result == aiReturn_OUTOFMEMORY) {
         throw std::bad_alloc();

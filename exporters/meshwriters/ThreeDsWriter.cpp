@@ -16,13 +16,13 @@ class ThreeDsExporter final : public meshwriters::MeshExporter
 {
 public:
     ThreeDsExporter()
-        : MeshExporter({L"3dswriter",
-                        L"{8a7f0c34-55be-4f0a-9d1e-0c8ef5a1b6d2}",
-                        L"3ds",
-                        "3ds",
-                        mostInMesh,
-                        mostNodes,
-                        {true, longestName, true}})
+        : MeshExporter({.library = L"3dswriter",
+                        .identity = L"{8a7f0c34-55be-4f0a-9d1e-0c8ef5a1b6d2}",
+                        .extension = L"3ds",
+                        .assimpId = "3ds",
+                        .mostInMesh = mostInMesh,
+                        .mostNodes = mostNodes,
+                        .names = {.isPlain = true, .longest = longestName, .areNumbered = true}})
     {
     }
 };

@@ -1,7 +1,7 @@
 // The library of materials that an OBJ file names and that lies beside it.
 
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "platform/text/Text.h"
 #include "support/TestScene.h"
 #include "viewer/ModelFixture.h"
@@ -55,7 +55,7 @@ protected:
 TEST_F(MaterialLibrary, IsTheFileThatTheModelNames)
 {
     for (char const* const stem :
-         {"model", "two words (2)", "Zahnräder 歯車", "a.b.c", "it's; \"quoted\" & more", "100%"}) {
+         {"model", "two words (2)", "Zahnräder 歯車", "a.b.c", "it's; \"quoted\" & more", "100%", "#lead", "a#b"}) {
         for (char const* const ending : {".obj", ".OBJ"}) {
             TemporaryFolder const own;
             auto const file = own.path / (std::string(stem) + ending);
@@ -74,6 +74,37 @@ TEST_F(MaterialLibrary, IsTheFileThatTheModelNames)
             EXPECT_TRUE(isRed) << file << ": the gears' colour stands in the library";
         }
     }
+}
+
+TEST_F(MaterialLibrary, HasANameThatEndsNoLine)
+{
+    for (auto const& [stem, library] :
+         {std::pair{"two\nlines", "two_lines.mtl"}, std::pair{"end\\", "end_.mtl"}, std::pair{"a\\b", "a_b.mtl"},
+          std::pair{"tab\tand\rreturn", "tab_and_return.mtl"}}) {
+        TemporaryFolder const own;
+        auto const file = own.path / (std::string(stem) + ".obj");
+        ASSERT_EQ(save(file), Status::ok);
+        ASSERT_TRUE(std::filesystem::is_regular_file(file)) << "the model has the name that was asked for";
+        EXPECT_EQ(libraryOf(file), library);
+        EXPECT_NE(contentOf(own.path / library).find("newmtl"), std::string::npos);
+        ASSERT_EQ(save(file), Status::ok);
+        EXPECT_EQ(libraryOf(file), library) << "the next time, too";
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(own.path), {}), 2);
+    }
+}
+
+TEST_F(MaterialLibrary, OfAnotherModelIsLeftToIt)
+{
+    auto const other = folder.path / "two_lines.obj";
+    ASSERT_EQ(save(other), Status::ok);
+    auto const before = contentOf(folder.path / "two_lines.mtl");
+    std::filesystem::remove(folder.path / "two_lines.mtl");
+    writeFile(folder.path / "two_lines.mtl", "the other model's");
+    auto const file = folder.path / "two\nlines.obj";
+    ASSERT_EQ(save(file), Status::ok);
+    EXPECT_EQ(libraryOf(file), "two_lines_2.mtl");
+    EXPECT_EQ(contentOf(folder.path / "two_lines.mtl"), "the other model's");
+    EXPECT_EQ(contentOf(folder.path / "two_lines_2.mtl"), before);
 }
 
 TEST_F(MaterialLibrary, ThatCantBeWrittenLeavesTheEarlierModel)
@@ -102,7 +133,7 @@ TEST_F(MaterialLibrary, ThatCantBeWrittenLeavesTheEarlierModel)
     EXPECT_EQ(unwritten(), "");
 }
 
-TEST_F(MaterialLibrary, StaysWithTheModelOnAFullDisk)
+TEST_F(MaterialLibrary, StaysWithTheModelThatIsTooLargeForTheDisk)
 {
     auto const file = folder.path / "model.obj";
     ASSERT_EQ(save(file), Status::ok);
@@ -111,7 +142,7 @@ TEST_F(MaterialLibrary, StaysWithTheModelOnAFullDisk)
     scene.moveTo(3, 50, 60, 70);
     {
         // Room for the library, not for the model.
-        prctest::FullDisk const disk(library.size() + 10);
+        prctest::FileSizeLimit const limit(library.size() + 10);
         EXPECT_EQ(save(file), Status::fileTooLarge);
     }
     EXPECT_EQ(contentOf(file), model);

@@ -8,8 +8,8 @@
 #include <assimp/Importer.hpp>
 #include <assimp/scene.h>
 
-#include <numeric>
-#include <set>
+#include <algorithm>
+#include <cmath>
 
 using namespace orvtest;
 using orvexp::Status;
@@ -109,6 +109,26 @@ TEST_F(MeshLimits, OtherFormatsKnowNoSuchLimit)
     EXPECT_EQ(save(scene, "stlwriter", "stl"), Status::ok);
 }
 
+TEST_F(MeshLimits, CourseOfManyPartsIsShownStepByStep)
+{
+    PartsScene const scene(numbered(10000));
+    for (auto const& [library, extension] : {std::pair{"3dswriter", "3ds"}, std::pair{"objwriter", "obj"},
+                                             std::pair{"stlwriter", "stl"}, std::pair{"colladawriter", "dae"}}) {
+        ProgressBar bar;
+        file = folder.path / (std::string("a.") + extension);
+        ASSERT_EQ(loadExporter(library)->save(file.wstring().c_str(), scene.document, nullptr, &bar), Status::ok);
+        auto const& percents = bar.percents;
+        // The making of the meshes comes percent by percent, the library's writing as the library tells it.
+        ASSERT_GT(percents.size(), 40U) << extension;
+        for (int i = 0; i < 40; ++i) {
+            ASSERT_EQ(percents[static_cast<std::size_t>(i)], i + 1) << extension;
+        }
+        EXPECT_TRUE(std::adjacent_find(percents.begin(), percents.end(), std::greater_equal()) == percents.end())
+            << extension << ": never back, and nothing twice";
+        EXPECT_EQ(percents.back(), 100) << extension;
+    }
+}
+
 TEST_F(MeshLimits, NormalsStandOnTheirTrianglesHoweverAPartIsPlaced)
 {
     struct Placement {
@@ -133,7 +153,7 @@ TEST_F(MeshLimits, NormalsStandOnTheirTrianglesHoweverAPartIsPlaced)
         // An inclined face, so that uneven scales turn its normal.
         auto wedge = std::make_shared<orvsg::Mesh>();
         wedge->positions = {0, 0, 0, 4, 0, 0, 0, 3, 5};
-        float const length = std::sqrt(15.0F * 0 + 20.0F * 20.0F + 12.0F * 12.0F);
+        float const length = std::hypot(20.0F, 12.0F);
         for (int corner = 0; corner < 3; ++corner) {
             wedge->normals.insert(wedge->normals.end(), {0, -20 / length, 12 / length});
         }

@@ -135,6 +135,7 @@ TEST_F(MeshNames, OfA3dsFileHave63BytesAtMostAndAreCutBetweenCharacters)
     EXPECT_EQ(std::set<std::string>(found.begin(), found.end()).size(), names.size());
     for (std::size_t i = 0; i < found.size(); ++i) {
         EXPECT_LE(found[i].size(), 63U);
+        EXPECT_LE(found[i].rfind('_'), 57U) << "numbers of five digits have room behind it";
         EXPECT_GE(found[i].size(), 50U) << "as much of a name as there is room for";
         auto const stem = found[i].substr(0, found[i].find_first_of("_-"));
         EXPECT_EQ(orvtext::toUtf8(names[i]).substr(0, stem.size()), stem);
