@@ -39,8 +39,8 @@ private:
 };
 
 /// The path by which Assimp knows the wanted file, and from which it makes the name of a file beside it, which then
-/// stands in a line of text: without the characters that would end the line or the name. It is another file's only
-/// where nobody has a model of that name, whose file beside it would be replaced.
+/// stands in a line of text: without the characters that would end the line or the name. Never the path of another
+/// model, whose file beside it would be replaced.
 std::filesystem::path nameableIn(std::filesystem::path const& path)
 {
     std::string stem = path.stem().string();

@@ -2,7 +2,7 @@
 
 #include "exporters/CommandOutput.h"
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "host/orvexp/ExportManager.h"
 #include "support/TestScene.h"
 #include "viewer/ModelFixture.h"
@@ -117,12 +117,12 @@ TEST_P(ExporterPlugin, FolderThatTakesNoFileIsFound)
     EXPECT_EQ(filesIn(folder.path), 1U);
 }
 
-TEST_P(ExporterPlugin, FullDiskLeavesTheEarlierFile)
+TEST_P(ExporterPlugin, SizeThatTheDiskRefusesLeavesTheEarlierFile)
 {
     auto const file = writeFile(fileIn(folder.path), "kept");
     Status status = Status::ok;
     {
-        prctest::FullDisk const disk(10);
+        prctest::FileSizeLimit const limit(10);
         status = save(file);
     }
     EXPECT_EQ(status, Status::fileTooLarge);

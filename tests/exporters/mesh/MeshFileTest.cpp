@@ -1,7 +1,7 @@
 // What the mesh exporters write, read again with Assimp and compared with the scene.
 
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "exporters/mesh/SceneFacts.h"
 #include "host/orv/Preferences.h"
 #include "host/orvsg/Value.h"
@@ -175,13 +175,13 @@ TEST_P(MeshFile, PartsOfAnySizeArriveWhole)
     expectSameBox(before, after, 1e-3);
 }
 
-TEST_P(MeshFile, FullDiskLeavesWhatWasThereAndNothingElse)
+TEST_P(MeshFile, SizeThatTheDiskRefusesLeavesWhatWasThereAndNothingElse)
 {
     writeFile(file(), "old");
     auto const sample = sampleDocument();
     orvexp::Status status = orvexp::Status::ok;
     {
-        prctest::FullDisk const disk(20000);
+        prctest::FileSizeLimit const limit(20000);
         status = save(sample);
     }
     EXPECT_EQ(status, orvexp::Status::fileTooLarge);

@@ -1,7 +1,7 @@
 // The viewer's own format: what the exporter writes the viewer opens again.
 
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "host/orvgl/SCRenderer.h"
 #include "host/orvsg/SCInfo.h"
 #include "host/orvsg/SCSceneRT.h"

@@ -2,7 +2,7 @@
 
 #include "exporters/CommandOutput.h"
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "exporters/pdf/PagePicture.h"
 #include "exporters/pdfwriter/View3D.h"
 #include "exporters/prc/PrcReader.h"
@@ -229,9 +229,9 @@ TEST_F(PdfFile, ShowsProgressThatRisesToTheEnd)
     EXPECT_EQ(bar.percents.back(), 100);
 }
 
-TEST_F(PdfFile, FullDiskLeavesNothing)
+TEST_F(PdfFile, SizeThatTheDiskRefusesLeavesNothing)
 {
-    prctest::FullDisk const disk(2000);
+    prctest::FileSizeLimit const limit(2000);
     EXPECT_EQ(loadExporter("pdfwriter")->save(file.wstring().c_str(), scene.document, nullptr, nullptr),
               orvexp::Status::fileTooLarge);
     EXPECT_TRUE(std::filesystem::is_empty(folder.path));

@@ -1,4 +1,4 @@
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "exporters/prc/PrcReader.h"
 #include "exporters/prc/PrcWriter.h"
 #include "exporters/prc/TestScenes.h"
@@ -61,10 +61,10 @@ TEST_F(WriteFile, ReplacesAFileOfThatName)
     EXPECT_THAT(files(), testing::ElementsAre("a.prc"));
 }
 
-TEST_F(WriteFile, LeavesNothingOnAFullDisk)
+TEST_F(WriteFile, LeavesNothingOfAFileThatIsTooLargeForTheDisk)
 {
     put("a.prc", "old");
-    prctest::FullDisk const disk(200);
+    prctest::FileSizeLimit const limit(200);
     for (char const* name : {"a.prc", "b.prc"}) {
         auto const outcome = writeFile(prctest::assembly(), folder / name);
         EXPECT_EQ(outcome.result, Result::cannotWrite);

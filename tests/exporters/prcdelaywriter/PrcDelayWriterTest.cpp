@@ -1,7 +1,7 @@
 #include "exporters/prcdelaywriter/PrcDelayWriter.h"
 
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "exporters/prc/PrcReader.h"
 #include "exporters/prcdelaywriter/DocumentMaker.h"
 #include "host/orv/Preferences.h"
@@ -117,11 +117,11 @@ TEST_F(PrcDelayWriterTest, SaysThatItCannotWrite)
     EXPECT_TRUE(isEmptyFolder());
 }
 
-TEST_F(PrcDelayWriterTest, LeavesNoPartOfAFileOnAFullDisk)
+TEST_F(PrcDelayWriterTest, LeavesNoPartOfAFileThatIsTooLargeForTheDisk)
 {
     Status status = Status::ok;
     {
-        prctest::FullDisk const disk(100);
+        prctest::FileSizeLimit const limit(100);
         status = save("a.prc");
     }
     EXPECT_EQ(status, Status::fileTooLarge);
