@@ -34,17 +34,15 @@ struct Column {
     PangoAlignment alignment;
 };
 
-/// Room for the longest item, as far as the names leave it; longer ones are wrapped.
+/// Room for the widest item, as far as the names leave it; longer ones are wrapped.
 double widthOfItems(PdfCanvas const& canvas, BomTable const& table)
 {
     double const least = table.byPart ? 44 : 76;
     constexpr double most = 0.4 * tableWidth;
-    auto const longest = std::max_element(table.rows.begin(), table.rows.end(),
-                                          [](auto const& a, auto const& b) { return a.item.size() < b.item.size(); });
-    if (longest == table.rows.end()) {
-        return least;
+    double text = 0;
+    for (auto const& row : table.rows) { // points are narrower than digits, so that the longest need not be the widest
+        text = std::max(text, TextBlock(canvas, row.item, tableWidth, {textSize}).width());
     }
-    double const text = TextBlock(canvas, longest->item, tableWidth, {textSize}).width();
     return std::clamp(text + 2 * cellPadding + 1, least, most);
 }
 

@@ -2,7 +2,7 @@
 
 #include "exporters/CommandOutput.h"
 #include "exporters/ExportLibraries.h"
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "exporters/bom/Csv.h"
 #include "host/orvsg/SCBom.h"
 #include "support/TestScene.h"
@@ -161,6 +161,40 @@ TEST_F(BomFile, PdfByLevelShowsTheItemsOfDeepTreesWhole)
     }
 }
 
+TEST_F(BomFile, PdfByLevelHasRoomForTheWidestItemNotTheOneOfMostSigns)
+{
+    std::vector<orvsg::Node> nodes{scene.topology->nodes.getValue(0)};
+    nodes[0].children.clear();
+    auto const add = [&](int parent, std::wstring const& name) {
+        int const number = static_cast<int>(nodes.size());
+        nodes[static_cast<std::size_t>(parent)].children.push_back(number);
+        nodes.push_back({name, parent, {}, -1});
+        return number;
+    };
+    std::string narrow = "1"; // a chain of 12 levels: 23 signs, of which 11 are points
+    for (int level = 0, parent = 0; level < 12; ++level) {
+        parent = add(parent, L"chain " + std::to_wstring(level));
+        narrow += level > 0 ? ".1" : "";
+    }
+    std::string wide; // 22 signs, of which 7 are points
+    int parent = 0;
+    for (int level = 0; level < 7; ++level) {
+        for (int place = level == 0 ? 2 : 1; place < 10; ++place) {
+            nodes[static_cast<std::size_t>(add(parent, L"leaf " + std::to_wstring(place)))].mesh = 0;
+        }
+        parent = add(parent, L"tenth " + std::to_wstring(level));
+        wide += "10.";
+    }
+    nodes[static_cast<std::size_t>(add(parent, L"last"))].mesh = 0;
+    wide += "1";
+    ASSERT_LT(wide.size(), narrow.size());
+    scene.topology->nodes = orvsg::Container<int, orvsg::Node>(nodes);
+    scene.bom->reportLevel = 1;
+    auto const text = pdfText(save("a.bompdf"));
+    EXPECT_THAT(text, HasSubstr(narrow));
+    EXPECT_THAT(text, HasSubstr(wide)) << "on one line";
+}
+
 TEST_F(BomFile, LongListsHaveAHeadAndANumberOnEachPage)
 {
     std::vector<orvsg::Node> nodes{scene.topology->nodes.getValue(0)};
@@ -224,10 +258,10 @@ TEST_F(BomFile, NameLongerThanAPageIsCutInPrintOnly)
     EXPECT_EQ(parseCsv(contentOf(save("a.csv"))).at(1).at(1).size(), longName.size());
 }
 
-TEST_F(BomFile, FullDiskLeavesNothing)
+TEST_F(BomFile, SizeThatTheDiskRefusesLeavesNothing)
 {
     for (char const* name : {"a.csv", "a.bompdf"}) {
-        prctest::FullDisk const disk(10);
+        prctest::FileSizeLimit const limit(10);
         auto const file = folder.path / name;
         EXPECT_EQ(loadExporter("bomwriter")->save(file.wstring().c_str(), scene.document, nullptr, nullptr),
                   orvexp::Status::fileTooLarge);
