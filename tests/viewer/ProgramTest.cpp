@@ -166,8 +166,8 @@ TEST(Program, AnswersAMistakeInTheLanguageOfTheOptionsOrTheOneThatFollowsIt)
 
 TEST(Program, MakesNoFolderToAnswer)
 {
-    TemporaryFolder const folder;
     for (auto const& arguments : {QStringList{"--help"}, {"--version"}, {"--frobnicate"}, {}}) {
+        TemporaryFolder const folder;
         runViewer(folder, arguments);
         EXPECT_FALSE(std::filesystem::exists(folder.path / "data")) << arguments.join(' ').toStdString();
     }
