@@ -1,7 +1,7 @@
 // What a capture asks of the system and of the viewer, in what order. This program answers some of the questions
 // itself: its definitions come before those of the libraries, note the question and hand it on.
 
-#include "exporters/FullDisk.h"
+#include "exporters/FileSizeLimit.h"
 #include "feed/CaptureFixture.h"
 #include "feed/Thumbnail.h"
 #include "host/orvgl/CameraHelper.h"
@@ -202,7 +202,7 @@ TEST_F(CaptureSteps, SendThePictureBeforeWhereANewOneCantBeWritten)
     renderer->shade = 10;
     Feed second;
     {
-        prctest::FullDisk const full(16);
+        prctest::FileSizeLimit const full(16);
         second = capture();
     }
     EXPECT_EQ(second.thumbnail, first.thumbnail);

@@ -1,7 +1,7 @@
 // A disk that fills up while the exporter writes: the temporary directory lies on a small file system in memory, or,
 // which needs no right to mount one, no file of this process can grow.
 
-#include "tests/exporters/FullDisk.h"
+#include "tests/exporters/FileSizeLimit.h"
 #include "tests/service/MultipartForm.h"
 #include "tests/service/PushFixture.h"
 #include "tests/support/OwnMounts.h"
@@ -73,7 +73,7 @@ protected:
     void leaveFree(std::size_t bytes)
     {
         if (!isMounted) {
-            limit = std::make_unique<prctest::FullDisk>(bytes);
+            limit = std::make_unique<prctest::FileSizeLimit>(bytes);
             return;
         }
         struct statvfs state {
@@ -124,7 +124,7 @@ protected:
     ScriptedHttpServer server;
     std::filesystem::path disk;
     bool isMounted = false;
-    std::unique_ptr<prctest::FullDisk> limit;
+    std::unique_ptr<prctest::FileSizeLimit> limit;
     std::unique_ptr<PushScene> push;
 };
 

@@ -7,7 +7,7 @@
 #include "platform/text/Text.h"
 #include "service/ModelFiles.h"
 #include "support/FileWatch.h"
-#include "tests/exporters/FullDisk.h"
+#include "tests/exporters/FileSizeLimit.h"
 #include "viewer/app/CommandTable.h"
 #include "viewer/app/MainWindow.h"
 #include "viewer/app/RecentFiles.h"
@@ -284,7 +284,7 @@ TEST_F(RecentFilesTest, APictureThatTheDiskHasNoRoomForTakesTheFormerOneWithIt)
     ASSERT_TRUE(std::filesystem::exists(preview));
     std::string const list = contentOf(listFile());
     {
-        prctest::FullDisk const disk(16);
+        prctest::FileSizeLimit const disk(16);
         open(files, latter, Qt::blue);
         EXPECT_THAT(files.paths(), ElementsAre(pathOf(latter), pathOf(former))) << "this run knows it all the same";
     }
