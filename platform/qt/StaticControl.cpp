@@ -1,11 +1,13 @@
 #include "platform/qt/StaticControl.h"
 
 #include "platform/qt/Gdi.h"
+#include "platform/qt/LongText.h"
 #include "platform/qt/Window.h"
 
 #include <QtWidgets>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace orvplatform
@@ -16,6 +18,11 @@ bool isPicture(DWORD style)
 {
     const DWORD type = style & SS_TYPEMASK;
     return type == SS_BITMAP || type == SS_ICON;
+}
+
+bool isLong(const QLabel& label)
+{
+    return label.wordWrap() && label.textFormat() == Qt::PlainText && label.text().size() >= LongText::shortest;
 }
 
 // A label, or a picture that fills the control whatever its own size. Letters shrink a little where a text would be
@@ -31,15 +38,21 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override
     {
-        const QFont fitted = fittedFont(*this);
-        if (fitted == font() && textRoom(*this) == contentsRect()) {
+        const QRect room = textRoom(*this);
+        const QFont& fitted = keptFont(room);
+        if (isLong(*this)) {
+            QPainter painter(this);
+            drawFrame(&painter);
+            painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, foregroundRole()));
+            longText.draw(painter, text(), font(), room, alignment(), event->rect());
+        } else if (fitted == font() && room == contentsRect()) {
             QLabel::paintEvent(event);
         } else {
             QPainter painter(this);
             drawFrame(&painter);
             painter.setFont(fitted);
-            style()->drawItemText(&painter, textRoom(*this), static_cast<int>(alignment()) | Qt::TextWordWrap,
-                                  palette(), isEnabled(), text(), foregroundRole());
+            style()->drawItemText(&painter, room, static_cast<int>(alignment()) | Qt::TextWordWrap, palette(),
+                                  isEnabled(), text(), foregroundRole());
         }
         if (picture.isNull() && !bitmap)
             return;
@@ -56,7 +69,28 @@ protected:
             painter.drawPixmap(contentsRect(), shown);
     }
 
+    void hideEvent(QHideEvent* event) override
+    {
+        longText.forget(); // thousands may have been seen
+        QLabel::hideEvent(event);
+    }
+
 private:
+    struct Fit {
+        QString text;
+        QFont font;
+        QRect room;
+        QFont fitted;
+    };
+    std::optional<Fit> fit; // the last one: a label is painted far more often than it changes
+    LongText longText;
+
+    const QFont& keptFont(const QRect& room)
+    {
+        if (!fit || fit->room != room || fit->font != font() || fit->text != text())
+            fit = Fit{text(), font(), room, fittedFont(*this)};
+        return fit->fitted;
+    }
     // Pixels are decoded in the middle of painting, so the dialog hears of it when that is over.
     void reportUnreadable()
     {
@@ -148,6 +182,8 @@ QFont fittedFont(const QLabel& label)
     const QRect room = textRoom(label);
     if (!label.wordWrap() || label.textFormat() != Qt::PlainText || label.text().isEmpty())
         return label.font();
+    if (isLong(label))
+        return label.font(); // a step smaller changes nothing for a text of pages, and each costs a layout of all
     const auto fits = [&](const QFont& font) {
         const QRect needed = QFontMetrics(font).boundingRect(room, Qt::TextWordWrap, label.text());
         return needed.width() <= room.width() && needed.height() <= room.height();

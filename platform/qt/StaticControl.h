@@ -22,6 +22,6 @@ std::unique_ptr<Behaviour> staticBehaviour();
 QRect textRoom(const QLabel& label);
 
 // The font in which a label draws its text: its own, or a smaller one, by two fifths at most, where the text would be
-// cut.
+// cut. A text of pages (LongText.h) keeps its own.
 QFont fittedFont(const QLabel& label);
 } // namespace orvplatform

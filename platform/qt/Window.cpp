@@ -27,8 +27,6 @@ QSet<HWND>& liveWindows()
     static QSet<HWND> set;
     return set;
 }
-bool defaultReached = false;
-
 // WM_DESTROY goes from the window down to its descendants, WM_NCDESTROY comes back up.
 void endTree(HWND window, bool withChildren = true)
 {
@@ -59,19 +57,6 @@ void endTree(HWND window, bool withChildren = true)
 QString toQString(const wchar_t* text)
 {
     return text ? QString::fromWCharArray(text) : QString();
-}
-
-void Behaviour::setText(HWND window, const QString& text)
-{
-    window->widget()->setWindowTitle(text);
-}
-QString Behaviour::text(HWND window)
-{
-    return window->text;
-}
-bool Behaviour::message(HWND, UINT, WPARAM, LPARAM, LRESULT&)
-{
-    return false;
 }
 
 bool isLive(HWND window)
@@ -127,17 +112,6 @@ void whenGone(HWND window, std::function<void()> function)
         window->whenGone.push_back(std::move(function));
 }
 
-LRESULT deliver(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool* defaulted)
-{
-    const bool outer = std::exchange(defaultReached, false);
-    LRESULT result = 0;
-    guarded([&] { result = SendMessageW(window, message, wParam, lParam); });
-    if (defaulted)
-        *defaulted = defaultReached;
-    defaultReached = outer;
-    return result;
-}
-
 void reportSize(HWND window)
 {
     const QSize size = isLive(window) ? placeInParent(window).size() : QSize();
@@ -147,11 +121,6 @@ void reportSize(HWND window)
     deliver(window, WM_SIZE, SIZE_RESTORED, MAKELPARAM(size.width(), size.height()));
 }
 
-void sendCommand(HWND control, UINT code)
-{
-    deliver(GetParent(control), WM_COMMAND, MAKEWPARAM(control->id, static_cast<int>(code)),
-            reinterpret_cast<LPARAM>(control));
-}
 } // namespace orvplatform
 
 using orvplatform::isLive;
@@ -327,8 +296,14 @@ BOOL DestroyWindow(HWND window)
         return FALSE;
     if (window->unmade) {
         orvplatform::endTree(window);
-        window->setParent(nullptr);
-        window->deleteLater();
+        QObject* end = window->madeWidget(); // where somebody asked for it while the window ended
+        if (!end)
+            end = window;
+        if (end->isWidgetType())
+            static_cast<QWidget*>(end)->setParent(nullptr);
+        else
+            end->setParent(nullptr);
+        end->deleteLater();
         return TRUE;
     }
     orvplatform::setShown(window, false);
@@ -343,84 +318,4 @@ BOOL DestroyWindow(HWND window)
 BOOL IsWindow(HWND window)
 {
     return isLive(window);
-}
-
-LRESULT SendMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (!isLive(window))
-        return 0;
-    return (window->procedure ? window->procedure : DefWindowProcW)(window, message, wParam, lParam);
-}
-
-BOOL PostMessageW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (!isLive(window))
-        return FALSE;
-    QMetaObject::invokeMethod(
-        window, [=] { orvplatform::deliver(window, message, wParam, lParam); }, Qt::QueuedConnection);
-    return TRUE;
-}
-
-UINT RegisterWindowMessageW(LPCWSTR name)
-{
-    static QHash<QString, UINT> numbers;
-    const QString key = orvplatform::toQString(name).toLower();
-    if (key.isEmpty())
-        return 0;
-    const auto known = numbers.constFind(key);
-    return known != numbers.constEnd() ? *known : *numbers.insert(key, 0xC000u + static_cast<UINT>(numbers.size()));
-}
-
-LRESULT DefWindowProcW(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    orvplatform::defaultReached = true;
-    if (!isLive(window))
-        return 0;
-    LRESULT result = 0;
-    if (!window->ending && window->behaviour->message(window, message, wParam, lParam, result))
-        return result;
-    switch (message) {
-    case WM_CLOSE:
-        ::DestroyWindow(window);
-        return 0;
-    case WM_SETREDRAW:
-        window->widget()->setUpdatesEnabled(wParam != 0);
-        return 0;
-    case WM_SETTEXT:
-        window->text = orvplatform::toQString(reinterpret_cast<LPCWSTR>(lParam));
-        if (!window->unmade)
-            window->behaviour->setText(window, window->text);
-        return TRUE;
-    case WM_GETTEXTLENGTH:
-        return static_cast<LRESULT>(window->behaviour->text(window).toStdWString().size());
-    case WM_GETTEXT: {
-        const std::wstring text = window->behaviour->text(window).toStdWString();
-        const std::size_t room = wParam;
-        if (room == 0 || !lParam)
-            return 0;
-        const std::size_t count = std::min(room - 1, text.size());
-        auto* buffer = reinterpret_cast<LPWSTR>(lParam);
-        std::copy_n(text.begin(), count, buffer);
-        buffer[count] = L'\0';
-        return static_cast<LRESULT>(count);
-    }
-    case WM_SETFONT:
-        orvplatform::applyFont(window, reinterpret_cast<HFONT>(wParam));
-        return 0;
-    case WM_GETFONT:
-        return reinterpret_cast<LRESULT>(window->font);
-    case WM_SETICON: {
-        HICON earlier = std::exchange(window->icons[wParam == ICON_BIG], reinterpret_cast<HICON>(lParam));
-        QIcon icon;
-        for (HICON each : window->icons)
-            if (each)
-                icon.addPixmap(orvplatform::pixmapOf(each));
-        window->widget()->setWindowIcon(icon);
-        return reinterpret_cast<LRESULT>(earlier);
-    }
-    case WM_GETICON:
-        return reinterpret_cast<LRESULT>(window->icons[wParam == ICON_BIG]);
-    default:
-        return 0;
-    }
 }

@@ -5,6 +5,7 @@
 #include "platform/qt/ButtonControl.h"
 #include "platform/qt/Native.h"
 #include "platform/qt/StaticControl.h"
+#include "tests/support/TextLayouts.h"
 
 #include <QtWidgets>
 
@@ -141,4 +142,93 @@ TEST_F(Fitting, LeavesAShownButtonAtTheRightEndItsPlace)
             ASSERT_EQ(drawn.pixel(x, y), drawn.pixel(179, 29)) << x << ", " << y;
     button.MoveWindow(0, 60, 24, 24);
     EXPECT_EQ(orvplatform::textRoom(made), made.contentsRect()) << "the button covers the beginning, which needs more";
+}
+
+TEST_F(Fitting, MeasuresALabelOnceForAsLongAsItStays)
+{
+    QLabel& made = makeLabel(180, 15, L"Nov 15, 2026 16:11 PM");
+    QFont large = made.font();
+    large.setPixelSize(18);
+    made.setFont(large);
+    const int before = orvtest::measuredTexts();
+    const QImage first = made.grab().toImage();
+    const int once = orvtest::measuredTexts() - before;
+    EXPECT_GT(once, 1);
+    EXPECT_EQ(made.grab().toImage(), first);
+    EXPECT_EQ(orvtest::measuredTexts() - before, once);
+    // Whatever it depends on makes it measure again.
+    label.SetWindowText(L"Nov 16, 2026 16:11 PM");
+    EXPECT_NE(made.grab().toImage(), first);
+    EXPECT_GT(orvtest::measuredTexts() - before, once);
+    const int twice = orvtest::measuredTexts();
+    label.MoveWindow(0, 60, 180, 30);
+    made.grab();
+    EXPECT_GT(orvtest::measuredTexts(), twice);
+    const int third = orvtest::measuredTexts();
+    large.setPixelSize(17);
+    made.setFont(large);
+    made.grab();
+    EXPECT_GT(orvtest::measuredTexts(), third);
+}
+
+TEST_F(Fitting, LaysATextOfPagesOutOnce)
+{
+    std::wstring text;
+    while (text.size() < (std::size_t{1} << 20))
+        text += L"A text of pages goes on and on. ";
+    QLabel& made = makeLabel(180, 600'000, text.c_str());
+    frame.MoveWindow(0, 0, 600, 601'000);
+    frame.ShowWindow(SW_SHOW);
+    const int measured = orvtest::measuredTexts();
+    const int before = orvtest::laidOutLines();
+    const auto part = [&made](int top) { return made.grab(QRect(0, top, 180, 200)).toImage(); };
+    const QImage first = part(0);
+    const int lines = orvtest::laidOutLines() - before;
+    EXPECT_GT(lines, 10'000);
+    const QImage below = part(300'000);
+    EXPECT_EQ(part(0), first);
+    EXPECT_EQ(orvtest::laidOutLines() - before, lines);
+    EXPECT_EQ(orvtest::measuredTexts(), measured) << "its letters don't shrink";
+    QImage blank(first);
+    blank.fill(first.pixelColor(179, 0));
+    EXPECT_NE(first, blank);
+    EXPECT_NE(below, blank);
+    label.SetWindowText((L"Other " + text).c_str());
+    EXPECT_NE(part(0), first);
+    frame.ShowWindow(SW_HIDE); // the lines are forgotten
+    frame.ShowWindow(SW_SHOW);
+    const int again = orvtest::laidOutLines();
+    part(0);
+    EXPECT_GT(orvtest::laidOutLines(), again + 10'000);
+}
+
+TEST_F(Fitting, DrawsALongTextLikeAShortOne)
+{
+    // Both begin alike; one has a character more than is laid out anew each time.
+    std::wstring text;
+    while (text.size() < 4095)
+        text += L"word and\nword ";
+    text.resize(4095);
+    QLabel& made = makeLabel(180, 200, text.c_str());
+    ASSERT_EQ(orvplatform::fittedFont(made), made.font());
+    const QImage usual = made.grab().toImage();
+    label.SetWindowText((text + L"x").c_str());
+    const int before = orvtest::laidOutLines();
+    EXPECT_EQ(made.grab().toImage(), usual);
+    EXPECT_GT(orvtest::laidOutLines(), before);
+    EXPECT_LT(orvtest::laidOutLines(), before + 40) << "no more than the label has room for";
+    label.EnableWindow(FALSE);
+    EXPECT_NE(made.grab().toImage(), usual);
+}
+
+TEST_F(Fitting, BreaksAWordOfPages)
+{
+    QLabel& made = makeLabel(180, 900'000, std::wstring(std::size_t{1} << 20, L'x').c_str());
+    frame.MoveWindow(0, 0, 600, 901'000);
+    const int before = orvtest::laidOutLines();
+    const QImage drawn = made.grab(QRect(0, 400'000, 180, 100)).toImage();
+    EXPECT_GT(orvtest::laidOutLines(), before + 10'000);
+    QImage blank(drawn);
+    blank.fill(drawn.pixelColor(179, 0));
+    EXPECT_NE(drawn, blank);
 }
