@@ -62,6 +62,12 @@ protected:
             const auto* key = static_cast<QKeyEvent*>(event);
             if (watched->isWidgetType() && (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab))
                 wakeNextStop(key->key() == Qt::Key_Tab && !(key->modifiers() & Qt::ShiftModifier));
+        } else if (event->type() == QEvent::Hide && watched->isWidgetType()) {
+            // The toolkit is about to take the focus on, as the Tab key does.
+            const auto* hidden = static_cast<QWidget*>(watched);
+            const QWidget* focus = QApplication::focusWidget();
+            if (focus && column->isAncestorOf(hidden) && (focus == hidden || hidden->isAncestorOf(focus)))
+                wakeNextStop(true);
         } else if (event->type() == QEvent::FocusIn && watched->isWidgetType()) {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
             auto* focus = static_cast<QWidget*>(watched);
@@ -216,10 +222,10 @@ HWND TasksWidget::placedWindowOf(QWidget* widget) const
     return widget ? existingHandle(widget) : nullptr;
 }
 
-// Nothing for a window that stands in no open group.
+// Nothing for a window that stands in no open group, or while the groups have no places yet.
 void TasksWidget::reveal(HWND window, const QWidget& part, int margin)
 {
-    if (!column->groups)
+    if (!column->groups || testAttribute(Qt::WA_ForceUpdatesDisabled))
         return;
     for (const auto& group : *column->groups) {
         qint64 y = group->place.body;
@@ -255,7 +261,8 @@ void TasksWidget::wakeInSight()
     }
     const QWidget* const focus = window()->focusWidget();
     const auto isNeeded = [&](HWND each) {
-        return !isLive(each) || inSight.contains(each) || (focus && each->widget()->isAncestorOf(focus));
+        return !isLive(each) || inSight.contains(each) || focus == each->widget() ||
+               (focus && each->widget()->isAncestorOf(focus));
     };
     const auto leaving = std::partition(awake.begin(), awake.end(), isNeeded);
     const std::vector<HWND> asleep(leaving, awake.end());
@@ -283,6 +290,8 @@ bool takesTab(const QWidget& widget, const QWidget& within)
 // Without making a control: the key may pass over thousands.
 bool hasTabStop(HWND dialog)
 {
+    if (isDisabled(dialog))
+        return false;
     const auto isStop = [](HWND control) {
         return controlKind(control) == ControlKind::Button && control->style & WS_TABSTOP && !isHidden(control) &&
                !isDisabled(control);

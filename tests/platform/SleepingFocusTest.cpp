@@ -99,3 +99,39 @@ TEST_F(SleepingWindows, StayAwakeWhileTheyHaveTheFocus)
     bar().setValue(bar().maximum() - 1);
     EXPECT_FALSE(isDrawn(0));
 }
+
+TEST_F(SleepingWindows, StayAwakeWhileTheyAreTheFocusThemselves)
+{
+    ::SetFocus(block(0));
+    ASSERT_EQ(focus(), block(0).m_hWnd);
+    bar().setValue(bar().maximum());
+    EXPECT_FALSE(isInSight(0));
+    EXPECT_TRUE(isDrawn(0));
+    EXPECT_EQ(focus(), block(0).m_hWnd);
+}
+
+TEST_F(SleepingWindows, StayAsleepForTheTabKeyWhereTheyAreSwitchedOffAsAWhole)
+{
+    for (int i = 1; i < last; ++i)
+        block(i).EnableWindow(FALSE);
+    ::SetFocus(buttonOf(0));
+    pressTab();
+    EXPECT_EQ(focus(), buttonOf(last));
+    EXPECT_TRUE(widget(20).findChildren<QPushButton*>().isEmpty());
+}
+
+TEST_F(SleepingWindows, WakeForTheFocusOfAControlThatIsHidden)
+{
+    for (int i = 1; i < last; ++i)
+        switchOff(i);
+    CButton outside; // where the focus would go if it passed over what sleeps
+    ASSERT_TRUE(outside.Create(L"Outside", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 380, 50, 400), &frame, 7));
+    ::SetFocus(buttonOf(0));
+    block(0).inside.ShowWindow(SW_HIDE);
+    EXPECT_EQ(focus(), buttonOf(last));
+    EXPECT_TRUE(isInSight(last));
+    block(0).inside.ShowWindow(SW_SHOW);
+    ::SetFocus(buttonOf(0));
+    block(0).ShowWindow(SW_HIDE); // with all that is in it
+    EXPECT_EQ(focus(), buttonOf(last));
+}

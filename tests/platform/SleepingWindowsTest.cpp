@@ -3,6 +3,8 @@
 
 #include "SleepingWindows.h"
 
+#include <QLabel>
+
 using namespace orvplatform::testing;
 
 BEGIN_MESSAGE_MAP(Block, CDialogEx)
@@ -201,6 +203,28 @@ TEST_F(SleepingWindows, LoseAControlInTheirSleep)
     EXPECT_TRUE(isDrawn(last));
     EXPECT_EQ(widget(last).findChildren<QPushButton*>().size(), 0);
     EXPECT_TRUE(block(last).text.IsWindowVisible());
+}
+
+TEST_F(SleepingWindows, LeaveNothingOfAControlThatAskedForItsWidgetAtItsEnd)
+{
+    static bool asked;
+    asked = false;
+    HWND text = ::GetDlgItem(block(last), label);
+    ::SetWindowLongPtrW(text, GWLP_WNDPROC,
+                        reinterpret_cast<LONG_PTR>(+[](HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+                            if (message == WM_DESTROY)
+                                asked = orvplatform::widgetOf(window) != nullptr;
+                            return DefWindowProcW(window, message, wParam, lParam);
+                        }));
+    const auto labels = widget(0).findChildren<QLabel*>().size();
+    EXPECT_TRUE(::DestroyWindow(text));
+    EXPECT_TRUE(asked);
+    EXPECT_FALSE(IsWindow(text));
+    processEvents();
+    bar().setValue(bar().maximum());
+    EXPECT_TRUE(isDrawn(last));
+    EXPECT_EQ(widget(last).findChildren<QLabel*>().size(), labels - 1);
+    EXPECT_EQ(::GetDlgItem(block(last), label), nullptr);
 }
 
 TEST_F(SleepingWindows, GoWithTheirPane)
