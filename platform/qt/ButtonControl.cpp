@@ -11,6 +11,13 @@ namespace orvplatform
 {
 namespace
 {
+// What a screen reader calls it: a picture has no words, so a button of nothing else goes by its tip.
+void nameButton(QAbstractButton& button)
+{
+    const QString caption = button.text().remove(QLatin1Char('&'));
+    button.setAccessibleName(caption.isEmpty() ? button.toolTip() : caption);
+}
+
 class ButtonBehaviour final : public Behaviour
 {
 public:
@@ -18,7 +25,7 @@ public:
     {
         auto* button = static_cast<QAbstractButton*>(window->widget());
         button->setText(text);
-        button->setAccessibleName(QString(text).remove(QLatin1Char('&')));
+        nameButton(*button);
     }
     bool message(HWND window, UINT message, WPARAM wParam, LPARAM, LRESULT& result) override
     {
@@ -217,6 +224,18 @@ void setButtonColours(HWND window, COLORREF face, COLORREF text)
                                            .arg(GetBValue(colour));
     };
     button->setStyleSheet(rule("background-color", face) + rule("color", text));
+}
+
+void setToolTip(HWND window, const std::wstring& text)
+{
+    if (!isLive(window))
+        return;
+    whenMade(window, Drawn::ToolTip, [tip = QString::fromStdWString(text)](QWidget& widget) {
+        widget.setToolTip(tip);
+        widget.setAccessibleDescription(tip);
+        if (auto* button = qobject_cast<QAbstractButton*>(&widget))
+            nameButton(*button);
+    });
 }
 
 void setDefaultButton(HWND window, bool isDefault)

@@ -64,16 +64,6 @@ void limitFocus(QWidget& widget, DWORD style)
         widget.setFocusPolicy(Qt::ClickFocus);
 }
 
-void setToolTip(HWND window, const std::wstring& text)
-{
-    if (!isLive(window))
-        return;
-    whenMade(window, Drawn::ToolTip, [tip = QString::fromStdWString(text)](QWidget& widget) {
-        widget.setToolTip(tip);
-        widget.setAccessibleDescription(tip);
-    });
-}
-
 std::wstring toolTip(HWND window)
 {
     return isLive(window) ? window->widget()->toolTip().toStdWString() : L"";
