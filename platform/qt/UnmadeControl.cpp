@@ -66,8 +66,11 @@ void makeWidget(HWND control)
     renewFont(control);
     for (const auto& [what, change] : state->drawn)
         change(*widget);
-    if (!state->isHidden && host->isVisible())
+    // The control has been on show all the while, so nobody is told.
+    control->turning = true;
+    if (!state->isHidden)
         widget->show();
+    control->turning = false;
 }
 } // namespace
 
