@@ -98,9 +98,13 @@ void CMFCTasksPane::RemoveGroup(int group)
     const std::unique_ptr<CMFCTasksPaneTaskGroup> taken = std::move(*place);
     groups.erase(place);
     for (const CMFCTasksPaneTask& task : taken->m_lstTasks) {
-        orvplatform::setPlaced(task.m_hwndTask, false);
+        const bool isHere = ::GetParent(task.m_hwndTask) == m_hWnd; // and not with another parent by now
+        if (isHere)
+            orvplatform::setPlaced(task.m_hwndTask, false);
         if (task.m_bAutoDestroyWindow)
             ::DestroyWindow(task.m_hwndTask);
+        else if (!isHere)
+            continue;
         else if (redraws)
             ::ShowWindow(task.m_hwndTask, SW_HIDE);
         else

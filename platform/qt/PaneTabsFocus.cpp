@@ -1,5 +1,8 @@
 #include "platform/qt/PaneTabs.h"
 
+#include "platform/qt/Sleep.h"
+#include "platform/qt/Window.h"
+
 #include <QtWidgets>
 
 // Where the keyboard and the pointer are: what holds a pane that is slid out, and what lets it go.
@@ -72,12 +75,19 @@ bool PaneTabs::eventFilter(QObject* watched, QEvent* event)
 
 void PaneTabs::focusWithin(const QWidget* frame)
 {
-    if (QWidget* last = frame ? frame->focusWidget() : nullptr; last && last->isVisible() && last->isEnabled())
+    QWidget* last = frame ? frame->focusWidget() : nullptr;
+    if (last && last->isEnabled() && IsWindowVisible(nearestHandle(last)))
+        bringIntoSight(nearestHandle(last)); // it may sleep
+    if (last && last->isVisible() && last->isEnabled())
         return last->setFocus(Qt::TabFocusReason);
     for (QWidget* each = frame ? frame->nextInFocusChain() : nullptr; each && each != frame;
-         each = each->nextInFocusChain())
+         each = each->nextInFocusChain()) {
+        // The controls of one that sleeps come right behind it.
+        if (HWND window = existingHandle(each); window && window->asleep && hasTabStop(window))
+            bringIntoSight(window);
         if (frame->isAncestorOf(each) && (each->focusPolicy() & Qt::TabFocus) && each->isVisible() && each->isEnabled())
             return each->setFocus(Qt::TabFocusReason);
+    }
     bar.setFocus(Qt::TabFocusReason);
 }
 

@@ -4,7 +4,11 @@
 #include "platform/qt/UnmadeControl.h"
 #include "platform/qt/Window.h"
 
+#include <QAccessible>
 #include <QtWidgets>
+
+#include <algorithm>
+#include <vector>
 
 namespace orvplatform
 {
@@ -20,10 +24,40 @@ void turn(HWND window, bool awake)
     window->widget()->setVisible(awake);
     window->turning = false;
 }
+
+// A screen reader finds what is made and shown, so nothing sleeps while one listens. What it has woken stays awake
+// until it is hidden.
+class Listener final : public QAccessible::ActivationObserver
+{
+public:
+    Listener() { QAccessible::installActivationObserver(this); }
+    ~Listener() override { QAccessible::removeActivationObserver(this); }
+    void accessibilityActiveChanged(bool active) override
+    {
+        listens = active;
+        if (!active)
+            return;
+        std::vector<HWND> asleep;
+        for (const QWidget* each : QApplication::allWidgets())
+            if (HWND window = existingHandle(each); window && window->asleep)
+                asleep.push_back(window);
+        for (HWND each : asleep)
+            wake(each);
+    }
+
+    bool listens = QAccessible::isActive();
+};
+
+bool isListenedTo()
+{
+    static Listener listener;
+    return listener.listens;
+}
 } // namespace
 
 void setPlaced(HWND window, bool placed)
 {
+    isListenedTo(); // from now on it is known
     if (isLive(window) && !window->unmade)
         window->placed = placed;
 }
@@ -36,7 +70,7 @@ void wake(HWND window)
 
 void putToSleep(HWND window)
 {
-    if (isLive(window) && window->placed && !window->asleep && !window->widget()->isHidden())
+    if (isLive(window) && window->placed && !window->asleep && !window->widget()->isHidden() && !isListenedTo())
         turn(window, false);
 }
 
@@ -56,13 +90,35 @@ void setShown(HWND window, bool shown)
         window->asleep = true;
         reportSize(window);
         deliver(window, WM_SHOWWINDOW, TRUE, 0);
-        if (isLive(window))
+        if (isListenedTo())
+            wake(window);
+        else if (isLive(window))
             wakeTasks(GetParent(window));
     } else {
         if (shown)
             makeControls(window);
         window->widget()->setVisible(shown);
     }
+}
+
+bool takesTab(const QWidget& widget, const QWidget& within)
+{
+    return widget.focusPolicy() & Qt::TabFocus && widget.isEnabled() && widget.isVisibleTo(&within);
+}
+
+bool hasTabStop(HWND dialog)
+{
+    if (isDisabled(dialog))
+        return false;
+    const auto isStop = [](HWND control) {
+        return controlKind(control) == ControlKind::Button && control->style & WS_TABSTOP && !isHidden(control) &&
+               !isDisabled(control);
+    };
+    if (std::any_of(dialog->unmadeControls.begin(), dialog->unmadeControls.end(), isStop))
+        return true;
+    const QList<QWidget*> made = dialog->widget()->findChildren<QWidget*>();
+    return std::any_of(made.begin(), made.end(),
+                       [dialog](const QWidget* each) { return takesTab(*each, *dialog->widget()); });
 }
 
 void bringIntoSight(HWND window)

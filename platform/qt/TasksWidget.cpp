@@ -99,6 +99,7 @@ private:
     void placeWindows(bool show);
     void placeColumn();
     void followScrolling();
+    bool holds(HWND window) const;
     void wakeNextStop(bool forwards);
 
     std::vector<HWND> awake; // of the groups' windows; some may be gone
@@ -156,6 +157,12 @@ void TasksWidget::chooseOrigin()
         column->origin = std::clamp<qint64>(offset - TasksColumn::reach / 2, 0, last);
 }
 
+// A group keeps a window that was given another parent, and that one's place, but has no say in it.
+bool TasksWidget::holds(HWND window) const
+{
+    return isLive(window) && window->widget()->parentWidget() == column;
+}
+
 void TasksWidget::placeWindows(bool show)
 {
     for (const auto& group : *column->groups) {
@@ -163,6 +170,10 @@ void TasksWidget::placeWindows(bool show)
         const int width = std::max(group->m_rectGroup.right - measures::grid - left, 0);
         qint64 y = group->place.body;
         for (const CMFCTasksPaneTask& task : group->m_lstTasks) {
+            if (!holds(task.m_hwndTask)) {
+                y += task.m_nWindowHeight;
+                continue;
+            }
             if (group->m_bIsCollapsed) {
                 ShowWindow(task.m_hwndTask, SW_HIDE);
                 continue;
@@ -257,7 +268,8 @@ void TasksWidget::wakeInSight()
         if ((*group)->place.top > bottom)
             break;
         for (const CMFCTasksPaneTask& task : (*group)->m_lstTasks)
-            inSight.insert(task.m_hwndTask);
+            if (holds(task.m_hwndTask))
+                inSight.insert(task.m_hwndTask);
     }
     const QWidget* const focus = window()->focusWidget();
     const auto isNeeded = [&](HWND each) {
@@ -268,7 +280,8 @@ void TasksWidget::wakeInSight()
     const std::vector<HWND> asleep(leaving, awake.end());
     awake.erase(leaving, awake.end());
     for (HWND each : asleep)
-        putToSleep(each);
+        if (holds(each))
+            putToSleep(each);
     for (HWND each : inSight)
         wakeNow(each);
 }
@@ -279,30 +292,6 @@ void TasksWidget::wakeNow(HWND window)
     if (isLive(window) && !window->asleep && std::find(awake.begin(), awake.end(), window) == awake.end())
         awake.push_back(window);
 }
-
-namespace
-{
-bool takesTab(const QWidget& widget, const QWidget& within)
-{
-    return widget.focusPolicy() & Qt::TabFocus && widget.isEnabled() && widget.isVisibleTo(&within);
-}
-
-// Without making a control: the key may pass over thousands.
-bool hasTabStop(HWND dialog)
-{
-    if (isDisabled(dialog))
-        return false;
-    const auto isStop = [](HWND control) {
-        return controlKind(control) == ControlKind::Button && control->style & WS_TABSTOP && !isHidden(control) &&
-               !isDisabled(control);
-    };
-    if (std::any_of(dialog->unmadeControls.begin(), dialog->unmadeControls.end(), isStop))
-        return true;
-    const QList<QWidget*> made = dialog->widget()->findChildren<QWidget*>();
-    return std::any_of(made.begin(), made.end(),
-                       [dialog](const QWidget* each) { return takesTab(*each, *dialog->widget()); });
-}
-} // namespace
 
 void TasksWidget::wakeNextStop(bool forwards)
 {
