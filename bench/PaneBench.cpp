@@ -12,13 +12,14 @@
 
 #include <benchmark/benchmark.h>
 
+#include <QAbstractScrollArea>
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
-#include <QAbstractScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -48,11 +49,11 @@ double timed(std::function<void()> const& work)
     return processorMilliseconds() - start;
 }
 
-/// Steps of scrolling aren't alike, so it is the usual one that counts.
-double median(std::vector<double> values)
+/// All but one in twenty took no longer. Steps of scrolling aren't alike, so it is the slow ones that are felt.
+double percentile95(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+    return values[values.size() * 95 / 100];
 }
 
 double residentMebibytes()
@@ -108,15 +109,17 @@ std::string feedOf(std::size_t count)
 }
 
 struct Costs {
-    double parse = 0.0;   ///< milliseconds of processor time, as the next four
+    double parse = 0.0;   ///< milliseconds of processor time, as all the next
     double headers = 0.0; ///< decoding the texts and reading the pictures' headers
     double first = 0.0;   ///< hint 40 with a pool of 100 blocks, until the pane is drawn
     double rebuild = 0.0; ///< hint 40 again, until the pane is drawn
     double load = 0.0;    ///< of the first load what comes before hint 40: answers taken over, parse
-    double frame = 0.0;   ///< one step of scrolling, the median
+    double frame = 0.0;   ///< one step of scrolling over the whole bar, the 95th percentile
     double slowestFrame = 0.0;
-    double needed = 0.0; ///< MiB of three copies of the records' texts and one of their pictures' files
-    double grown = 0.0;  ///< MiB in memory with the feed on show, less what was there before
+    double selection = 0.0; ///< hint 10 with all records on show, until the pane is drawn
+    double texts = 0.0;     ///< MiB of three copies of the records' texts
+    double files = 0.0;     ///< MiB of one copy of their pictures' files
+    double grown = 0.0;     ///< MiB in memory with the feed on show, less what was there before
     bool isWhole = true;
 };
 
@@ -153,7 +156,8 @@ void measureBareCost(std::string const& answer, Costs& costs)
         }));
     }
     for (Feed const& feed : feeds) {
-        costs.needed += (3.0 * textBytes(feed) + static_cast<double>(decodeThumbnail(feed).size())) / bytesOfMebibyte;
+        costs.texts += 3.0 * textBytes(feed) / bytesOfMebibyte;
+        costs.files += static_cast<double>(decodeThumbnail(feed).size()) / bytesOfMebibyte;
     }
     costs.parse = orvbench::lowerQuartile(parses);
     costs.headers = orvbench::lowerQuartile(headers);
@@ -185,20 +189,20 @@ public:
         return costs;
     }
 
-    /// Of the filled pane.
-    double rebuild()
+    /// A hint to the filled pane, until it is drawn.
+    double hint(short code)
     {
-        std::vector<double> rebuilds;
+        std::vector<double> times;
         for (int i = 0; i < rounds; ++i) {
-            rebuilds.push_back(timed([&] {
-                orvtest::sendHint(*pane, codes::feedReloaded, scene.document);
+            times.push_back(timed([&] {
+                orvtest::sendHint(*pane, code, scene.document);
                 orvplatform::testing::processEvents();
             }));
         }
-        return orvbench::lowerQuartile(rebuilds);
+        return orvbench::lowerQuartile(times);
     }
 
-    /// Of the filled pane.
+    /// Down over the whole bar of the filled pane, each step to records that haven't been seen before it.
     void measureScrolling(Costs& costs)
     {
         auto* const area = orvplatform::widgetOf(list())->findChild<QAbstractScrollArea*>();
@@ -207,11 +211,11 @@ public:
         constexpr int steps = 200;
         for (int i = 0; i < steps; ++i) {
             frames.push_back(timed([&] {
-                bar.setValue(i * 40 < bar.maximum() / 2 ? i * 40 : bar.maximum() - i * 40);
+                bar.setValue(static_cast<int>(std::int64_t{bar.maximum()} * i / (steps - 1)));
                 orvplatform::testing::processEvents();
             }));
         }
-        costs.frame = median(frames);
+        costs.frame = percentile95(frames);
         costs.slowestFrame = *std::max_element(frames.begin(), frames.end());
     }
 
@@ -236,7 +240,8 @@ Costs measure(std::size_t count)
             costs.grown = shown.grown; // later ones find room that earlier ones left
         }
         if (i == rounds - 1) {
-            costs.rebuild = run.rebuild();
+            costs.rebuild = run.hint(codes::feedReloaded);
+            costs.selection = run.hint(codes::selectionChanged);
             run.measureScrolling(costs);
         }
     }
@@ -262,13 +267,14 @@ int main(int argc, char** argv)
     std::vector<std::size_t> const chosen = argumentsOf(argc, argv);
     std::vector<std::size_t> const counts = chosen.empty() ? std::vector<std::size_t>{100, 1000, 10000} : chosen;
     std::map<std::size_t, Costs> all;
-    std::printf("%8s %10s %10s %10s %10s %10s %9s %9s %10s %10s\n", "records", "parse ms", "headers ms", "first ms",
-                "rebuild ms", "load ms", "frame ms", "worst ms", "needed MiB", "grown MiB");
+    std::printf("%8s %10s %10s %10s %10s %10s %9s %9s %9s %10s %10s %10s\n", "records", "parse ms", "headers ms",
+                "first ms", "rebuild ms", "load ms", "frame ms", "worst ms", "hint10 ms", "texts MiB", "files MiB",
+                "grown MiB");
     for (std::size_t const count : counts) {
         Costs const costs = all[count] = measure(count);
-        std::printf("%8zu %10.1f %10.1f %10.1f %10.1f %10.1f %9.2f %9.2f %10.1f %10.1f\n", count, costs.parse,
-                    costs.headers, costs.first, costs.rebuild, costs.load, costs.frame, costs.slowestFrame,
-                    costs.needed, costs.grown);
+        std::printf("%8zu %10.1f %10.1f %10.1f %10.1f %10.1f %9.2f %9.2f %9.3f %10.1f %10.1f %10.1f\n", count,
+                    costs.parse, costs.headers, costs.first, costs.rebuild, costs.load, costs.frame, costs.slowestFrame,
+                    costs.selection, costs.texts, costs.files, costs.grown);
         std::fflush(stdout);
     }
     if (!chosen.empty()) {
@@ -278,8 +284,10 @@ int main(int argc, char** argv)
     orvbench::Aims aims;
     for (std::size_t const count : counts) {
         aims.expect(std::to_string(count) + " records are all on show", all[count].isWhole);
-        aims.expectUnder(std::to_string(count) + " records, scrolling by one frame", all[count].frame, 1000.0 / 60.0,
-                         " ms");
+        constexpr double frame = 1000.0 / 60.0;
+        aims.expectUnder(std::to_string(count) + " records, 95 of 100 steps over the whole bar", all[count].frame,
+                         frame, " ms");
+        aims.expectUnder(std::to_string(count) + " records, a selection", all[count].selection, frame, " ms");
     }
     constexpr double atOnce = 150.0;
     aims.expectUnder("1,000 records shown first and drawn", all[1000].first, atOnce, " ms");
@@ -288,6 +296,6 @@ int main(int argc, char** argv)
     aims.expectUnder("10,000 records rebuilt and drawn, times 1,000", all[10000].rebuild / all[1000].rebuild, linear,
                      "");
     aims.expectUnder("memory for 10,000 records, times three copies of their texts and their pictures' files",
-                     all[10000].grown / all[10000].needed, 1.15, "");
+                     all[10000].grown / (all[10000].texts + all[10000].files), 1.15, "");
     return aims.exitStatus();
 }
