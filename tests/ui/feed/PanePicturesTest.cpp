@@ -7,10 +7,10 @@
 
 #include "platform/qt/Look.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
 #include <QBuffer>
 #include <QPainter>
-#include <QAbstractScrollArea>
 #include <QScrollBar>
 
 #include <cstdlib>
@@ -178,9 +178,6 @@ TEST_F(PanePicturesTest, ThreeComments)
 
 TEST_F(PanePicturesTest, TwoThousandCommentsAtTheirEnd)
 {
-    if (!isAt96()) {
-        GTEST_SKIP() << "skipped: one resolution is enough for this one";
-    }
     signIn();
     openVisiblePane();
     std::vector<Feed> feeds(1997, comment(L"Agreed.", L"Bob", L"bob@example.com"));
@@ -203,6 +200,15 @@ TEST_F(PanePicturesTest, InJapaneseAndGerman)
         expectPicture("signed-out");
         pane->DestroyWindow();
         signIn();
+        std::wstring const model = scene.info->file();
+        scene.info->setFile(L"");
+        openVisiblePane();
+        expectPicture("no-model");
+        pane->DestroyWindow();
+        scene.info->setFile(model);
+        openVisiblePane();
+        expectPicture("model");
+        pane->DestroyWindow();
         showThreeComments();
         expectPicture("three-comments");
         pane->DestroyWindow();
