@@ -273,8 +273,8 @@ void TasksWidget::wakeInSight()
     }
     const QWidget* const focus = window()->focusWidget();
     const auto isNeeded = [&](HWND each) {
-        return !isLive(each) || inSight.contains(each) || focus == each->widget() ||
-               (focus && each->widget()->isAncestorOf(focus));
+        return !isLive(each) || inSight.contains(each) ||
+               (focus && each->widget()->isAncestorOf(focus)); // of itself, too
     };
     const auto leaving = std::partition(awake.begin(), awake.end(), isNeeded);
     const std::vector<HWND> asleep(leaving, awake.end());
